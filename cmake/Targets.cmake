@@ -1,0 +1,52 @@
+# The compiler flags of the whole project, once, and the helpers that make a target of a room.
+
+add_library(gradewell_flags INTERFACE)
+target_compile_features(gradewell_flags INTERFACE cxx_std_20)
+target_include_directories(gradewell_flags INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_definitions(gradewell_flags INTERFACE
+    QT_NO_CAST_FROM_ASCII      # every text says which encoding it comes from
+    QT_NO_CAST_TO_ASCII
+    QT_NO_KEYWORDS)            # "signals" and "slots" stay ordinary words
+target_compile_options(gradewell_flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
+    -Werror)
+if(GRADEWELL_SANITIZE)
+    target_compile_options(gradewell_flags INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+        -Wno-error=maybe-uninitialized)  # GCC 12 reports false positives in Qt's headers under the sanitizers
+    target_link_options(gradewell_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(GRADEWELL_COVERAGE)
+    target_compile_options(gradewell_flags INTERFACE --coverage)
+    target_link_options(gradewell_flags INTERFACE --coverage)
+endif()
+
+# One precompiled header a layer: parsing Qt's headers is most of a compilation's time.
+file(WRITE "${PROJECT_BINARY_DIR}/precompiled/Empty.cpp" "")
+function(gradewell_precompiled name)
+    cmake_parse_arguments(arg "" "" "HEADERS;LINK" ${ARGN})
+    add_library(${name} OBJECT "${PROJECT_BINARY_DIR}/precompiled/Empty.cpp")
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTORCC OFF)
+    target_link_libraries(${name} PRIVATE gradewell_flags ${arg_LINK})
+    target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+endfunction()
+gradewell_precompiled(precompiled_core LINK Qt6::Core
+    HEADERS <QByteArray> <QDate> <QDateTime> <QString> <QStringList> <array> <filesystem> <functional> <memory> <vector>)
+gradewell_precompiled(precompiled_widgets LINK Qt6::Widgets Qt6::PrintSupport
+    HEADERS <QtCore> <QtGui> <QtWidgets> <array> <functional> <memory> <vector>)
+
+# gradewell_core(NAME SOURCES ... LINK ...): logic that needs no window.
+function(gradewell_core name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC Qt6::Core ${arg_LINK} PRIVATE gradewell_flags)
+    target_precompile_headers(${name} REUSE_FROM precompiled_core)
+endfunction()
+
+# gradewell_windows(NAME SOURCES ... LINK ...): windows and controls.
+function(gradewell_windows name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC Qt6::Widgets Qt6::PrintSupport ${arg_LINK} PRIVATE gradewell_flags)
+    target_precompile_headers(${name} REUSE_FROM precompiled_widgets)
+endfunction()

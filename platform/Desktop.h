@@ -1,0 +1,89 @@
+#pragma once
+
+#include "platform/SystemError.h"
+
+#include <QDateTime>
+#include <QSize>
+#include <QString>
+
+class SystemCalls;
+class Volumes;
+
+enum class MessageButtons { Ok, OkCancel, YesNo, RetryCancel };
+enum class MessageIcon { None, Information, Question, Exclamation, Critical };
+
+/// The button that closed a message box; Escape and the close button give Cancel, or No, or Ok, whichever there is.
+enum class MessageAnswer { Ok = 1, Cancel = 2, Retry = 4, Yes = 6, No = 7 };
+
+struct Message {
+    QString Title;
+    QString Text; ///< plain text, lines broken by single line feeds
+    MessageButtons Buttons = MessageButtons::Ok;
+    MessageIcon Icon = MessageIcon::None;
+};
+
+struct FileDialog {
+    enum class Kind { Open, Save };
+
+    Kind DialogKind = Kind::Open;
+    QString Title;
+    QString Filter;           ///< "Schemes (*.scm)|*.scm", pairs of label and pattern separated by bars
+    QString FileName;         ///< proposed, in the program's form; may be a bare name or empty
+    QString DefaultExtension; ///< ".scm"; given to a chosen name that has none
+    bool OverwritePrompt = false;
+    bool PathMustExist = false;
+    bool FileMustExist = false;
+};
+
+/// The chosen file in the program's form, or error 32755 when the user cancelled.
+struct FileDialogAnswer {
+    QString FileName;
+    SystemError Error;
+};
+
+/// The chosen font's name, or error 32755 when the user cancelled.
+struct FontDialogAnswer {
+    QString FontName;
+    SystemError Error;
+};
+
+enum class HelperProgram {
+    FileViewer, ///< "explorer.exe " on Windows, the desktop's opener elsewhere
+    TextEditor, ///< "notepad.exe " on Windows, the desktop's opener or $EDITOR in a terminal elsewhere
+};
+
+/// Everything that windows and routines ask of the desktop and the operating system. The program installs the Qt one,
+/// a test a scripted one that records what was asked and gives the next answer.
+class Desktop {
+public:
+    virtual ~Desktop() = default;
+
+    /// Shows a message box over the active window and waits for its answer.
+    virtual MessageAnswer ShowMessage(const Message& message) = 0;
+    virtual FileDialogAnswer AskForFile(const FileDialog& dialog) = 0;
+    /// A font dialog of screen and printer fonts, with `fontName` (when not empty) at `pointSize` preselected.
+    virtual FontDialogAnswer AskForFont(const QString& fontName, int pointSize) = 0;
+
+    /// Starts another program with `path` (program's form) as its one argument, without a shell, and returns at once.
+    /// Reports 53 when the file is missing (FileViewer only) or nothing can be started.
+    virtual SystemError StartProgram(HelperProgram program, const QString& path) = 0;
+
+    /// The screen's size in logical pixels.
+    virtual QSize ScreenSize() = 0;
+    /// Sets the default printer's font; false when there is no printer or it cannot use the font.
+    virtual bool SetPrinterFont(const QString& fontName) = 0;
+    virtual void ProcessPendingEvents() = 0;
+    virtual QDateTime Now() = 0;
+
+    virtual Volumes& TheVolumes() = 0;
+    virtual SystemCalls& TheSystemCalls() = 0;
+};
+
+/// The installed desktop. One must be installed before any window or file routine is used.
+Desktop& TheDesktop();
+
+/// Installs a desktop and returns the one before (null at first); the caller keeps ownership.
+Desktop* InstallDesktop(Desktop* desktop);
+
+/// A message box with an OK button only.
+void ShowNotice(MessageIcon icon, const QString& title, const QString& text);

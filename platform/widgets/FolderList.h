@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/SystemError.h"
+
+#include <QListWidget>
+
+/// A list of folders: the current folder's drive root and parents, the current folder (bold, open), and the folders in
+/// it, each level indented. A double click or Enter on an entry makes it the current folder.
+class FolderList : public QListWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString path READ Path WRITE SetPathAsUser NOTIFY Changed)
+
+public:
+    explicit FolderList(QWidget* parent = nullptr);
+
+    /// The current folder, as on the disk (`c:\Marks\2016`, `c:\` for a root); empty when none is shown.
+    QString Path() const { return path; }
+
+    /// Makes a folder current and raises Changed when that changes Path(). A drive alone ("c:") stands for the drive's
+    /// current folder, or its root when that one is gone. A blank path empties the list. When the folder cannot be read
+    /// the error is returned and path and list stay as they were.
+    SystemError SetPath(const QString& folder);
+
+    /// Reads the current folder again; returns the error and empties the folders below it when it cannot be read.
+    SystemError Refresh();
+
+    /// What the property writes: as SetPath, with the message that a user's choice brings when the folder is refused.
+    void SetPathAsUser(const QString& folder);
+
+Q_SIGNALS:
+    void Changed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QString path;
+
+    void ShowFolder(const QString& folder, const QStringList& names);
+    void OpenEntry(const QListWidgetItem* entry);
+};
