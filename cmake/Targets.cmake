@@ -6,7 +6,8 @@ target_include_directories(gradewell_flags INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_definitions(gradewell_flags INTERFACE
     QT_NO_CAST_FROM_ASCII      # every text says which encoding it comes from
     QT_NO_CAST_TO_ASCII
-    QT_NO_KEYWORDS)            # "signals" and "slots" stay ordinary words
+    QT_NO_KEYWORDS             # "signals" and "slots" stay ordinary words
+    $<$<NOT:$<CONFIG:Release>>:QT_FORCE_ASSERTS>)
 target_compile_options(gradewell_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
     -Werror)

@@ -28,10 +28,12 @@ bool StartsPair(const QString& text, qsizetype at) {
     return text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
 }
 
-QString Recased(const QString& text, QString (QString::*convert)() const) {
+using Convert = QString (*)(const QString&);
+
+QString Recased(const QString& text, Convert convert) {
     QString result = text;
     for (QChar& character : result) {
-        const QString other = (QString(character).*convert)();
+        const QString other = convert(QString(character));
         if (other.size() == 1 && (CodePageHas(other[0]) || !CodePageHas(character))) {
             character = other[0];
         }
@@ -79,11 +81,11 @@ QString OnlyCodePage(const QString& text) {
 }
 
 QString UpperCase(const QString& text) {
-    return Recased(text, &QString::toUpper);
+    return Recased(text, [](const QString& character) { return character.toUpper(); });
 }
 
 QString LowerCase(const QString& text) {
-    return Recased(text, &QString::toLower);
+    return Recased(text, [](const QString& character) { return character.toLower(); });
 }
 
 QString TrimBlanks(const QString& text) {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QComboBox>
+#include "platform/widgets/DropDownList.h"
 
 /// A drop-down list of the drives ("c:", "g:"). The drives are read anew whenever the list drops down.
-class DriveList : public QComboBox {
+class DriveList : public DropDownList {
     Q_OBJECT
     Q_PROPERTY(QString drive READ Drive WRITE SetDrive NOTIFY Changed)
 
@@ -25,9 +25,6 @@ public:
 Q_SIGNALS:
     /// Another drive was selected, by the user or in code. It may be one that is not ready.
     void Changed();
-
-protected:
-    void wheelEvent(QWheelEvent* event) override;
 
 private:
     QString announced; // the drive that Changed was last raised for

@@ -2,11 +2,12 @@
 
 #include "platform/SystemError.h"
 
-#include <QListWidget>
+#include <QStyle>
+#include <QTreeWidget>
 
-/// A list of folders: the current folder's drive root and parents, the current folder (bold, open), and the folders in
-/// it, each level indented. A double click or Enter on an entry makes it the current folder.
-class FolderList : public QListWidget {
+/// A list of folders: the current folder's drive root and parents, the current folder (bold), and the folders in it, each
+/// level indented. A double click or Enter on an entry makes it the current folder.
+class FolderList : public QTreeWidget {
     Q_OBJECT
     Q_PROPERTY(QString path READ Path WRITE SetPathAsUser NOTIFY Changed)
 
@@ -24,11 +25,14 @@ public:
     /// Reads the current folder again; returns the error and empties the folders below it when it cannot be read.
     SystemError Refresh();
 
-    /// What the property writes: as SetPath, with the message that a user's choice brings when the folder is refused.
+    /// What the property writes and a double click does: as SetPath, and Refused when the folder cannot be read.
     void SetPathAsUser(const QString& folder);
 
 Q_SIGNALS:
+    /// Path() is another folder now.
     void Changed();
+    /// The user chose a folder that cannot be read (gone, no permission, drive not ready); Path() stays as it was.
+    void Refused(const QString& folder, const SystemError& error);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -37,5 +41,7 @@ private:
     QString path;
 
     void ShowFolder(const QString& folder, const QStringList& names);
-    void OpenEntry(const QListWidgetItem* entry);
+    QTreeWidgetItem* NewEntry(QTreeWidgetItem* parent, const QString& name, const QString& whole,
+                              QStyle::StandardPixmap icon);
+    void OpenEntry(const QTreeWidgetItem* entry);
 };

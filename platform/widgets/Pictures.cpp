@@ -1,0 +1,42 @@
+#include "platform/widgets/Pictures.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <utility>
+
+QIcon Picture(const QString& name) {
+    return QIcon(QStringLiteral(":/pictures/%1.png").arg(name));
+}
+
+PictureButton::PictureButton(const QString& picture, int size, const QString& accessibleName, QWidget* parent)
+    : QToolButton(parent) {
+    setIcon(Picture(picture));
+    setIconSize(QSize(size, size));
+    setAutoRaise(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(accessibleName);
+    setToolTip(accessibleName);
+}
+
+void PictureButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        event->accept();
+        click();
+        return;
+    }
+    QToolButton::keyPressEvent(event);
+}
+
+ClickableLabel::ClickableLabel(QWidget* parent) : QLabel(parent) {
+    setCursor(Qt::PointingHandCursor);
+}
+
+void ClickableLabel::mousePressEvent(QMouseEvent* event) {
+    pressed = event->button() == Qt::LeftButton;
+}
+
+void ClickableLabel::mouseReleaseEvent(QMouseEvent* event) {
+    if (std::exchange(pressed, false) && rect().contains(event->position().toPoint())) {
+        Q_EMIT Clicked();
+    }
+}
