@@ -1,0 +1,3 @@
+#include "app/BuiltEdition.h"
+
+const Edition BuiltEdition = Edition::French;

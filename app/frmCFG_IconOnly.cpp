@@ -1,0 +1,12 @@
+#include "app/frmCFG_IconOnly.h"
+
+#include "platform/widgets/Pictures.h"
+
+frmCFG_IconOnly::frmCFG_IconOnly() {
+    setObjectName(QStringLiteral("frmCFG_IconOnly"));
+    QIcon icon = Picture(QStringLiteral("icon"));
+    for (const int size : {16, 32, 48, 256}) {
+        icon.addFile(QStringLiteral(":/pictures/icon-%1.png").arg(size), QSize(size, size));
+    }
+    setWindowIcon(icon);
+}

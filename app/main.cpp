@@ -1,0 +1,29 @@
+#include "app/BuiltEdition.h"
+#include "app/frmCFG_IconOnly.h"
+#include "app/frmMaster_SU.h"
+#include "platform/ProgramDrives.h"
+#include "platform/Volumes.h"
+#include "platform/qt/QtDesktop.h"
+#include "platform/widgets/ProgramStyle.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    ProgramStyle::Install();
+    const NativePath executableFolder(QCoreApplication::applicationDirPath().toStdU16String());
+    ProgramDrives drives = OpenProgramDrives(RealSystemCalls(), executableFolder);
+    QtDesktop desktop(std::move(drives.TheVolumes), RealSystemCalls());
+    InstallDesktop(&desktop);
+    const frmCFG_IconOnly icon;
+    QApplication::setWindowIcon(icon.windowIcon());
+    for (const QString& complaint : drives.Complaints) {
+        ShowNotice(MessageIcon::Exclamation, QStringLiteral("DRIVES.CONF"), complaint);
+    }
+    frmMaster_SU menu({});
+    if (!menu.Form_Load(BuiltEdition, drives.ProgramFolder)) {
+        return 0;
+    }
+    menu.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,175 @@
+#include "platform/qt/QtDesktop.h"
+
+#include "platform/ProgramPath.h"
+#include "platform/Volumes.h"
+#include "platform/qt/DialogFilters.h"
+#include "platform/qt/HelperPrograms.h"
+#include "platform/qt/PrinterFonts.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QFontDialog>
+#include <QMessageBox>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QScreen>
+#include <QStandardPaths>
+
+namespace {
+
+QString TextOf(const NativePath& path) {
+    return QString::fromStdU16String(path.u16string());
+}
+
+QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
+    switch (buttons) {
+    case MessageButtons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case MessageButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case MessageButtons::RetryCancel:
+        return QMessageBox::Retry | QMessageBox::Cancel;
+    case MessageButtons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Information:
+        return QMessageBox::Information;
+    case MessageIcon::Question:
+        return QMessageBox::Question;
+    case MessageIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageIcon::Critical:
+        return QMessageBox::Critical;
+    case MessageIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+MessageAnswer AnswerOf(int button) {
+    switch (button) {
+    case QMessageBox::Cancel:
+        return MessageAnswer::Cancel;
+    case QMessageBox::Retry:
+        return MessageAnswer::Retry;
+    case QMessageBox::Yes:
+        return MessageAnswer::Yes;
+    case QMessageBox::No:
+        return MessageAnswer::No;
+    default:
+        return MessageAnswer::Ok;
+    }
+}
+
+// A message box reads rich text where a text looks like it; names of files may hold anything.
+class PlainMessageBox : public QMessageBox {
+public:
+    explicit PlainMessageBox(const Message& message) : QMessageBox(QApplication::activeWindow()) {
+        setWindowTitle(message.Title);
+        setTextFormat(Qt::PlainText);
+        setText(message.Text);
+        setIcon(IconOf(message.Icon));
+        setStandardButtons(ButtonsOf(message.Buttons));
+    }
+};
+
+void Propose(QFileDialog& asked, const FileDialog& dialog, const Volumes& volumes) {
+    const QString folder = FolderOf(dialog.FileName);
+    const auto native = volumes.ToNative(folder.isEmpty() ? QStringLiteral("c:\\") : folder + QLatin1Char('\\'));
+    if (!native.Error) {
+        asked.setDirectory(TextOf(native.Path));
+    }
+    if (!dialog.FileName.isEmpty()) {
+        asked.selectFile(NameOf(dialog.FileName));
+    }
+}
+
+} // namespace
+
+QtDesktop::QtDesktop(std::unique_ptr<Volumes> volumesToUse, SystemCalls& callsToUse)
+    : volumes(std::move(volumesToUse)), calls(callsToUse) {}
+
+QtDesktop::~QtDesktop() = default;
+
+MessageAnswer QtDesktop::ShowMessage(const Message& message) {
+    PlainMessageBox box(message);
+    return AnswerOf(box.exec());
+}
+
+FileDialogAnswer QtDesktop::AskForFile(const FileDialog& dialog) {
+    const bool saving = dialog.DialogKind == FileDialog::Kind::Save;
+    QFileDialog asked(QApplication::activeWindow(), dialog.Title);
+    asked.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    asked.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    asked.setOption(QFileDialog::DontConfirmOverwrite, !dialog.OverwritePrompt);
+    asked.setNameFilters(QtFilters(dialog.Filter));
+    asked.setDefaultSuffix(dialog.DefaultExtension.mid(1));
+    Propose(asked, dialog, *volumes);
+    if (asked.exec() != QDialog::Accepted || asked.selectedFiles().isEmpty()) {
+        return {QString(), MakeError(ErrorNumber::DialogCancelled)};
+    }
+    const QString chosen = asked.selectedFiles().first();
+    const auto found = volumes->FromNative(NativePath(chosen.toStdU16String()));
+    if (found.Error) {
+        ShowMessage({dialog.Title, RefusedFolderText(chosen, found.Error), MessageButtons::Ok, MessageIcon::Critical});
+        return {QString(), MakeError(ErrorNumber::DialogCancelled)};
+    }
+    return {found.Path, {}};
+}
+
+FontDialogAnswer QtDesktop::AskForFont(const QString& fontName, int pointSize) {
+    QFont initial = QApplication::font();
+    if (!fontName.isEmpty()) {
+        initial.setFamily(fontName);
+    }
+    initial.setPointSize(pointSize);
+    QFontDialog asked(initial, QApplication::activeWindow());
+    if (asked.exec() != QDialog::Accepted) {
+        return {QString(), MakeError(ErrorNumber::DialogCancelled)};
+    }
+    return {asked.selectedFont().family(), {}};
+}
+
+SystemError QtDesktop::StartProgram(HelperProgram program, const QString& path) {
+    const auto native = volumes->ToNative(path);
+    const QString file = TextOf(native.Path);
+    const bool exists = !native.Error && QFileInfo::exists(file);
+    if (native.Error || (program == HelperProgram::FileViewer && !exists)) {
+        return MakeError(ErrorNumber::FileNotFound);
+    }
+    const auto find = [](const QString& name) { return name.isEmpty() ? name : QStandardPaths::findExecutable(name); };
+    const HelperCommand command = CommandFor(program, file, {find, qEnvironmentVariable("EDITOR"), exists});
+    const bool started = !command.Program.isEmpty() && QProcess::startDetached(command.Program, command.Arguments);
+    return started ? SystemError() : MakeError(ErrorNumber::FileNotFound);
+}
+
+QSize QtDesktop::ScreenSize() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? screen->size() : QSize();
+}
+
+bool QtDesktop::SetPrinterFont(const QString& fontName) {
+    return PrinterCanUse(fontName, !QPrinterInfo::defaultPrinterName().isEmpty(), QFontDatabase::families());
+}
+
+void QtDesktop::ProcessPendingEvents() {
+    QCoreApplication::processEvents();
+}
+
+QDateTime QtDesktop::Now() {
+    return QDateTime::currentDateTime();
+}
+
+Volumes& QtDesktop::TheVolumes() {
+    return *volumes;
+}
+
+SystemCalls& QtDesktop::TheSystemCalls() {
+    return calls;
+}

@@ -1,0 +1,75 @@
+#include "platform/widgets/ProgramStyle.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyleOptionGroupBox>
+
+namespace {
+
+constexpr int TitleTop = 7;
+constexpr int TitleLeft = 12;
+constexpr int TitleGap = 1; // between the title and the card's contents
+constexpr qreal CornerRadius = 5;
+
+QFont TitleFont(const QWidget* widget) {
+    QFont font = widget != nullptr ? widget->font() : QApplication::font();
+    font.setBold(true);
+    return font;
+}
+
+QRect TitleRect(const QStyleOptionGroupBox& box, const QWidget* widget) {
+    const int height = QFontMetrics(TitleFont(widget)).height();
+    return {box.rect.left() + TitleLeft, box.rect.top() + TitleTop, box.rect.width() - 2 * TitleLeft, height};
+}
+
+QColor Blend(const QColor& one, const QColor& other, qreal share) {
+    return QColor::fromRgbF(static_cast<float>(one.redF() * (1 - share) + other.redF() * share),
+                            static_cast<float>(one.greenF() * (1 - share) + other.greenF() * share),
+                            static_cast<float>(one.blueF() * (1 - share) + other.blueF() * share));
+}
+
+} // namespace
+
+void ProgramStyle::Install() {
+    QApplication::setStyle(new ProgramStyle);
+}
+
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                      const QWidget* widget) const {
+    const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (control != CC_GroupBox || box == nullptr) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    const QPalette& palette = box->palette;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.25));
+    painter->setBrush(Blend(palette.color(QPalette::Window), palette.color(QPalette::Base), 0.6));
+    painter->drawRoundedRect(QRectF(box->rect).adjusted(0.5, 0.5, -0.5, -0.5), CornerRadius, CornerRadius);
+    painter->setFont(TitleFont(widget));
+    painter->setPen(palette.color(box->state.testFlag(State_Enabled) ? QPalette::Active : QPalette::Disabled,
+                                  QPalette::WindowText));
+    painter->drawText(TitleRect(*box, widget), Qt::AlignLeading | Qt::AlignVCenter | Qt::TextHideMnemonic, box->text);
+    painter->restore();
+}
+
+QRect ProgramStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
+                                   const QWidget* widget) const {
+    const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (control != CC_GroupBox || box == nullptr) {
+        return QProxyStyle::subControlRect(control, option, subControl, widget);
+    }
+    switch (subControl) {
+    case SC_GroupBoxFrame:
+        return box->rect;
+    case SC_GroupBoxLabel:
+        return box->text.isEmpty() ? QRect() : TitleRect(*box, widget);
+    case SC_GroupBoxContents: {
+        const int top = box->text.isEmpty() ? 0 : TitleRect(*box, widget).bottom() + TitleGap;
+        return box->rect.adjusted(1, top, -1, -1);
+    }
+    default:
+        return {};
+    }
+}
