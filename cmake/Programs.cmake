@@ -1,1 +1,46 @@
+# The two programs, their manuals and the program folders that they are installed into.
 
+# gradewell_program(NAME EDITION): the program of one edition, with the window rooms that it offers, and the install
+# rules of its component: the program at the top of its folder, the manual in Manuals, nothing else.
+function(gradewell_program name edition edition_source)
+    add_executable(${name} app/main.cpp ${edition_source})
+    target_link_libraries(${name} PRIVATE gradewell_flags
+        app_windows options_windows import_windows admin_windows transfer_windows)
+    target_precompile_headers(${name} REUSE_FROM precompiled_widgets)
+    install(TARGETS ${name} RUNTIME DESTINATION . COMPONENT ${edition})
+    if(TARGET manuals)
+        install(FILES "${PROJECT_BINARY_DIR}/manuals/${edition}/Gradewell Config.PDF" DESTINATION Manuals
+            COMPONENT ${edition})
+        add_dependencies(${name} manuals)
+    endif()
+endfunction()
+
+# gradewell_manual(EDITION): turns docs/manual/EDITION.html into the PDF that Help opens.
+function(gradewell_manual edition)
+    set(source "${PROJECT_SOURCE_DIR}/docs/manual/${edition}.html")
+    set(folder "${PROJECT_BINARY_DIR}/manuals/${edition}")
+    file(MAKE_DIRECTORY "${folder}")
+    add_custom_command(OUTPUT "${folder}/Gradewell Config.PDF"
+        COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=default.warning=false
+            $<TARGET_FILE:manual_writer> "${source}" "${folder}/Gradewell Config.PDF"
+        DEPENDS manual_writer "${source}"
+        COMMENT "Writing the manual of the ${edition} edition"
+        VERBATIM)
+endfunction()
+
+# The manuals are no matter for the sanitizers: their build tests the program's own code.
+if(NOT GRADEWELL_SANITIZE)
+    add_executable(manual_writer tools/ManualWriter.cpp)
+    target_link_libraries(manual_writer PRIVATE Qt6::Gui gradewell_flags)
+    gradewell_manual(english)
+    gradewell_manual(french)
+    add_custom_target(manuals ALL DEPENDS
+        "${PROJECT_BINARY_DIR}/manuals/english/Gradewell Config.PDF"
+        "${PROJECT_BINARY_DIR}/manuals/french/Gradewell Config.PDF")
+endif()
+
+if(EXISTS "${PROJECT_SOURCE_DIR}/app/main.cpp")
+    gradewell_program(gradewell-config english app/EditionEnglish.cpp)
+    gradewell_program(carnelle-config french app/EditionFrench.cpp)
+    add_custom_target(programs DEPENDS gradewell-config carnelle-config)
+endif()

@@ -1,6 +1,7 @@
 #include "platform/MappedVolumes.h"
 
 #include "platform/NativeText.h"
+#include "platform/OpenFile.h"
 #include "platform/ProgramPath.h"
 
 #include <algorithm>
@@ -14,7 +15,9 @@ constexpr qsizetype DriveLength = 2;
 
 bool IsFolder(SystemCalls& calls, const NativePath& path) {
     SystemCalls::FileStatus status;
-    return calls.Status(path / ".", status) == 0 && status.IsFolder; // "." looks through a symbolic link
+    const NativePath inside = path / ".";
+    return Retried([&] { return calls.Status(inside, status); }) == 0 &&
+           status.IsFolder; // "." looks through a symbolic link
 }
 
 NativePath Normal(const NativePath& path) {
@@ -48,7 +51,7 @@ enum class Lookup { Found, Missing, Failed };
 Lookup Descend(SystemCalls& calls, NativePath& path, const QString& name, int& failure) {
     const NativePath folder = std::exchange(path, path / NativeFromText(name));
     SystemCalls::FileStatus status;
-    failure = -calls.Status(path, status);
+    failure = -Retried([&] { return calls.Status(path, status); });
     if (failure == 0) {
         return Lookup::Found;
     }
@@ -56,7 +59,7 @@ Lookup Descend(SystemCalls& calls, NativePath& path, const QString& name, int& f
         return Lookup::Failed;
     }
     std::vector<NativePath> names;
-    failure = -calls.ListNames(folder, names);
+    failure = -Retried([&] { return calls.ListNames(folder, names); });
     std::sort(names.begin(), names.end());
     for (const NativePath& candidate : names) {
         const auto text = TextFromNative(candidate);
@@ -157,7 +160,7 @@ Volumes::FolderResult MappedVolumes::ListFolders(const QString& path) const {
         return {{}, folder.Error};
     }
     std::vector<NativePath> names;
-    if (const int failure = -calls.ListNames(folder.Path, names)) {
+    if (const int failure = -Retried([&] { return calls.ListNames(folder.Path, names); })) {
         const bool root = drives.value(DriveOf(WholePath(path))[0]) == folder.Path;
         return {{}, root ? MakeError(ErrorNumber::DiskNotReady) : FolderError(failure)};
     }

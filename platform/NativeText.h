@@ -2,6 +2,7 @@
 
 #include "platform/SystemCalls.h"
 
+#include <QByteArray>
 #include <QString>
 #include <optional>
 
@@ -9,6 +10,12 @@
 
 /// The native path of a text that is in the system's own form.
 NativePath NativeFromText(const QString& text);
+
+/// The native path of bytes as they stand on the disk.
+NativePath NativeFromBytes(const QByteArray& bytes);
+
+/// The bytes of a native path as they stand on the disk.
+QByteArray BytesFromNative(const NativePath& path);
 
 /// The text of a native path; nothing when its bytes are no valid text.
 std::optional<QString> TextFromNative(const NativePath& path);

@@ -16,12 +16,12 @@ public:
         SystemError Error;
     };
     struct ProgramResult {
-        QString Path;        ///< in the program's form, drive in small letters; empty on failure
-        SystemError Error;   ///< 68 when no drive reaches it, 52 when its name cannot be written in the code page
+        QString Path;      ///< in the program's form, drive in small letters; empty on failure
+        SystemError Error; ///< 68 when no drive reaches it, 52 when its name cannot be written in the code page
     };
     struct FolderResult {
-        QStringList Names;   ///< the folders in it, sorted without regard to case
-        SystemError Error;   ///< 71 when the drive cannot be read, 76 when the folder is gone, 70 when it is refused
+        QStringList Names; ///< the folders in it, sorted without regard to case
+        SystemError Error; ///< 71 when the drive cannot be read, 76 when the folder is gone, 70 when it is refused
     };
 
     virtual ~Volumes() = default;
