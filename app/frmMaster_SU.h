@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/GeneralFrame.h"
+#include "app/ProductTexts.h"
 
 #include <QDialog>
 #include <functional>
