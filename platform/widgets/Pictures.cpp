@@ -4,7 +4,14 @@
 #include <QMouseEvent>
 #include <utility>
 
+// The pictures are compiled into a library; a program that links it must ask for them.
+static void LoadPictures() {
+    Q_INIT_RESOURCE(pictures);
+}
+
 QIcon Picture(const QString& name) {
+    static const bool loaded = (LoadPictures(), true);
+    Q_UNUSED(loaded);
     return QIcon(QStringLiteral(":/pictures/%1.png").arg(name));
 }
 

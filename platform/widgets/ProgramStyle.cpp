@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int TitleTop = 7;
-constexpr int TitleLeft = 12;
+constexpr int TitleLeft = 13;
 constexpr int TitleGap = 1; // between the title and the card's contents
 constexpr qreal CornerRadius = 5;
 
