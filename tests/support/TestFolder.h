@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/MappedVolumes.h"
+#include "tests/support/PrintText.h"
 #include "tests/support/ScriptedDesktop.h"
 
 #include <QTemporaryDir>
