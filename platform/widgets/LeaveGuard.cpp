@@ -53,7 +53,7 @@ bool LeaveGuard::eventFilter(QObject* receiver, QEvent* event) {
     if (box == nullptr || widget == nullptr || !StartsElsewhere(*widget, *box) || (press && !ActsOnPress(*widget))) {
         return false;
     }
-    if (box->Leave()) {
+    if (!(press && box->TakeRefusedPress()) && box->Leave()) {
         if (type == QEvent::Shortcut && widget->focusPolicy() != Qt::NoFocus && widget->isEnabled()) {
             qobject_cast<QWidget*>(receiver)->setFocus(Qt::ShortcutFocusReason);
         }

@@ -43,7 +43,7 @@ bool TextBox::Leave() {
 
 void TextBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    if (StaysInside(event->reason())) {
+    if (std::exchange(away, false) && StaysInside(event->reason())) {
         return;
     }
     selectAll();
@@ -53,13 +53,20 @@ void TextBox::focusInEvent(QFocusEvent* event) {
     }
 }
 
-// Reached with the rule still to run only when the focus was moved in code; then a refusal brings it back.
+// Reached with the rule still to run when a press or code moved the focus; a refusal brings it back before the other
+// control learns of it. The press itself comes later, and the guard asks what became of it.
 void TextBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    const bool leaving = !StaysInside(event->reason()) && window()->isVisible() && isEnabled() && isVisible();
+    away = StaysInside(event->reason());
+    const bool leaving = !away && window()->isVisible() && isEnabled() && isVisible();
     if (leaving && !Leave() && !runningRule) {
+        refusedPress = event->reason() == Qt::MouseFocusReason;
         setFocus(Qt::OtherFocusReason);
     }
+}
+
+bool TextBox::TakeRefusedPress() {
+    return std::exchange(refusedPress, false);
 }
 
 void TextBox::keyPressEvent(QKeyEvent* event) {

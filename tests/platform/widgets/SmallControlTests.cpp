@@ -1,0 +1,155 @@
+#include "platform/qt/DialogFilters.h"
+#include "platform/qt/HelperPrograms.h"
+#include "platform/qt/PrinterFonts.h"
+#include "platform/widgets/Captions.h"
+#include "platform/widgets/DropDownList.h"
+#include "platform/widgets/Pictures.h"
+#include "platform/widgets/ProgramStyle.h"
+#include "tests/support/PrintText.h"
+#include "tests/support/WindowInput.h"
+
+namespace {
+
+TEST(Captions, EachKindOfControlTakesItsText) {
+    constexpr Caption table[] = {{"label", "Drive:", "Lecture : "}, {"button", "&Save", "&Enregistrer"},
+                                 {"frame", "Frame", "Cadre"}, {"tick", "&Tick", "&Cocher"}};
+    QWidget window;
+    QLabel label(&window);
+    QPushButton button(&window);
+    QGroupBox frame(&window);
+    QCheckBox tick(&frame);
+    label.setObjectName(QStringLiteral("label"));
+    button.setObjectName(QStringLiteral("button"));
+    frame.setObjectName(QStringLiteral("frame"));
+    tick.setObjectName(QStringLiteral("tick"));
+    ApplyCaptions(window, table, CaptionLanguage::French);
+    EXPECT_EQ(label.text(), QStringLiteral("Lecture : "));
+    EXPECT_EQ(button.text(), QStringLiteral("&Enregistrer"));
+    EXPECT_EQ(frame.title(), QStringLiteral("Cadre"));
+    EXPECT_EQ(tick.text(), QStringLiteral("&Cocher"));
+    ApplyCaptions(window, table, CaptionLanguage::English);
+    EXPECT_EQ(frame.title(), QStringLiteral("Frame"));
+}
+
+TEST(PictureButtons, SpaceEnterAndClickWorkThem) {
+    PictureButton button(QStringLiteral("lock-closed"), 48, QStringLiteral("Unlock"));
+    int clicks = 0;
+    QObject::connect(&button, &QToolButton::clicked, [&] { ++clicks; });
+    ShowActive(button);
+    QTest::keyClick(&button, Qt::Key_Space);
+    QTest::keyClick(&button, Qt::Key_Return);
+    QTest::keyClick(&button, Qt::Key_Enter);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 4);
+    EXPECT_EQ(button.accessibleName(), QStringLiteral("Unlock"));
+}
+
+TEST(ClickableLabels, OnlyAPressAndReleaseOnThemIsAClick) {
+    ClickableLabel label;
+    label.resize(60, 20);
+    int clicks = 0;
+    QObject::connect(&label, &ClickableLabel::Clicked, [&] { ++clicks; });
+    label.show();
+    QTest::mouseClick(&label, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+    QTest::mouseClick(&label, Qt::RightButton);
+    QTest::mousePress(&label, Qt::LeftButton);
+    QTest::mouseRelease(&label, Qt::LeftButton, {}, QPoint(200, 200));
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(Pictures, EachIsSharpAtEveryScale) {
+    for (const char* name : {"lock-closed", "lock-open", "disk", "hourglass", "icon"}) {
+        const QString base = QStringLiteral(":/pictures/") + QString::fromLatin1(name);
+        EXPECT_FALSE(Picture(QString::fromLatin1(name)).pixmap(48).isNull()) << name;
+        const QSize single = QImage(base + QStringLiteral(".png")).size();
+        EXPECT_FALSE(single.isEmpty()) << name;
+        EXPECT_EQ(QImage(base + QStringLiteral("@2x.png")).size(), single * 2) << name;
+        EXPECT_EQ(QImage(base + QStringLiteral("@4x.png")).size(), single * 4) << name;
+    }
+}
+
+TEST(DropDownLists, TheWheelActsOnlyWithTheFocus) {
+    QWidget window;
+    QVBoxLayout column(&window);
+    DropDownList list;
+    QPushButton other;
+    column.addWidget(&list);
+    column.addWidget(&other);
+    list.addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    ShowActive(window);
+    other.setFocus();
+    const auto turn = [&] {
+        QWheelEvent event(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(&list, &event);
+    };
+    turn();
+    EXPECT_EQ(list.currentIndex(), 0);
+    list.setFocus();
+    turn();
+    EXPECT_EQ(list.currentIndex(), 1);
+}
+
+TEST(DialogFilters, AsQtTakesThem) {
+    EXPECT_EQ(QtFilters(QStringLiteral("All Files (*.*)|*.*")), QStringList({QStringLiteral("All Files (*)")}));
+    EXPECT_EQ(QtFilters(QStringLiteral("Schemes (*.scm)|*.scm")), QStringList({QStringLiteral("Schemes (*.[sS][cC][mM])")}));
+    EXPECT_EQ(QtFilters(QStringLiteral("JPeg (*.jpg)|*.jpg|Bit Map (*.bmp)|*.bmp")),
+              QStringList({QStringLiteral("JPeg (*.[jJ][pP][gG])"), QStringLiteral("Bit Map (*.[bB][mM][pP])")}));
+    EXPECT_EQ(QtFilters(QString()), QStringList());
+}
+
+TEST(PrinterFonts, APrinterAndTheFontAreNeeded) {
+    const QStringList families{QStringLiteral("DejaVu Sans"), QStringLiteral("ARIAL")};
+    EXPECT_TRUE(PrinterCanUse(QStringLiteral("Arial"), true, families));
+    EXPECT_FALSE(PrinterCanUse(QStringLiteral("Arial"), false, families));
+    EXPECT_FALSE(PrinterCanUse(QStringLiteral("Arial"), true, {QStringLiteral("Arial Black")}));
+    EXPECT_FALSE(PrinterCanUse(QString(), true, families));
+}
+
+#ifndef Q_OS_WIN
+HelperSurroundings Machine(const QStringList& programs, const char* editor, bool fileExists) {
+    return {[programs](const QString& name) {
+                return !name.isEmpty() && programs.contains(name) ? QStringLiteral("/usr/bin/") + name : QString();
+            },
+            QString::fromLatin1(editor), fileExists};
+}
+
+TEST(HelperPrograms, ThePathIsOneArgumentOfItsOwn) {
+    const QStringList all{QStringLiteral("xdg-open"), QStringLiteral("x-terminal-emulator"), QStringLiteral("vi")};
+    const QString odd = QStringLiteral("/srv/a \"b\" & $(c);-d");
+    const HelperCommand viewer = CommandFor(HelperProgram::FileViewer, odd, Machine(all, "vi", true));
+    EXPECT_EQ(viewer.Program, QStringLiteral("/usr/bin/xdg-open"));
+    EXPECT_EQ(viewer.Arguments, QStringList({odd}));
+    const HelperCommand fresh = CommandFor(HelperProgram::TextEditor, odd, Machine(all, "vi", false));
+    EXPECT_EQ(fresh.Program, QStringLiteral("/usr/bin/x-terminal-emulator"));
+    EXPECT_EQ(fresh.Arguments, QStringList({QStringLiteral("-e"), QStringLiteral("/usr/bin/vi"), odd}));
+    EXPECT_EQ(CommandFor(HelperProgram::TextEditor, odd, Machine(all, "vi", true)).Program,
+              QStringLiteral("/usr/bin/xdg-open"));
+}
+
+TEST(HelperPrograms, NothingWhereTheMachineHasNothing) {
+    const QString file = QStringLiteral("/srv/x.txt");
+    EXPECT_EQ(CommandFor(HelperProgram::FileViewer, file, Machine({QStringLiteral("x-terminal-emulator")}, "vi", true)).Program,
+              QString());
+    EXPECT_EQ(CommandFor(HelperProgram::TextEditor, file, Machine({QStringLiteral("xdg-open")}, "vi", false)).Program,
+              QString());
+    EXPECT_EQ(CommandFor(HelperProgram::TextEditor, file, Machine({QStringLiteral("x-terminal-emulator")}, "", true)).Program,
+              QString());
+}
+#endif
+
+TEST(ProgramStyles, FramesHoldTheirTitleInside) {
+    QGroupBox frame(QStringLiteral("Title"));
+    QVBoxLayout column(&frame);
+    column.setContentsMargins(0, 0, 0, 0);
+    QLabel label(QStringLiteral("text"));
+    column.addWidget(&label);
+    frame.resize(200, 100);
+    frame.show();
+    const int title = QFontMetrics(frame.font()).height();
+    EXPECT_GE(label.mapTo(&frame, QPoint()).y(), title) << "the contents begin below the title";
+    EXPECT_GT(frame.grab().toImage().pixelColor(100, 0).alpha(), 0);
+}
+
+} // namespace
