@@ -70,6 +70,7 @@ void GeneralFrame::BuildLayout() {
     side->addStretch(1);
     side->addWidget(cmdGeneral);
     MenuLayout::SetColumns(*this, texts, side);
+    lockCorner->raise(); // above the button's column, or no click would reach the lock
 }
 
 void GeneralFrame::ShowLock(bool locked) {

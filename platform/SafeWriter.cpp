@@ -4,6 +4,8 @@
 #include "platform/OpenFile.h"
 #include "platform/TemporaryName.h"
 
+#include <utility>
+
 namespace {
 
 constexpr unsigned OnlyOwner = 0600;
@@ -35,7 +37,14 @@ int ProbeForWriting(SystemCalls& calls, const Target& target) {
 }
 
 SystemError FindTarget(SystemCalls& calls, Target& target) {
-    const int failure = FollowLinks(calls, target.Path, target.Old);
+    const NativePath named = target.Path;
+    int failure = FollowLinks(calls, target.Path, target.Old);
+    if (failure == ENOENT) {
+        // A shared folder may answer once from an old list; what stands there would lose its link, mode and owner.
+        const NativePath first = std::exchange(target.Path, named);
+        failure = FollowLinks(calls, target.Path, target.Old);
+        target.Path = failure == ENOENT && target.Path == named ? first : target.Path;
+    }
     target.Exists = failure == 0;
     if (failure != 0 && failure != ENOENT) {
         return ErrorFromErrno(failure);
@@ -132,16 +141,19 @@ int SyncMove(SystemCalls& calls, const NativePath& folder) {
 SystemError ReplaceTarget(SystemCalls& calls, OpenFile& open, const NativePath& temporary, const Target& target,
                           const QByteArray& bytes) {
     SystemError error = ErrorFromErrno(Fill(calls, open, temporary, target, bytes));
+    int moveFailure = 0;
     if (!error) {
-        const int failure = -Retried([&] { return calls.Replace(temporary, target.Path); });
-        error = failure != 0 && !WasMoved(calls, temporary, target.Path, bytes) ? FolderError(failure) : SystemError();
+        moveFailure = -Retried([&] { return calls.Replace(temporary, target.Path); });
+        const bool moved = moveFailure == 0 || WasMoved(calls, temporary, target.Path, bytes);
+        error = moved ? SystemError() : FolderError(moveFailure);
     }
-    if (error) {
-        open.Close();
-        Retried([&] { return calls.Remove(temporary); });
-        return error;
+    if (!error) {
+        return ErrorFromErrno(SyncMove(calls, target.Path.parent_path()));
     }
-    return ErrorFromErrno(SyncMove(calls, target.Path.parent_path()));
+    open.Close();
+    Retried([&] { return calls.Remove(temporary); });
+    // A folder in which everybody may replace only files of their own takes new files and yet refuses the move.
+    return moveFailure == EPERM && target.Exists ? ErrorFromErrno(WriteInPlace(calls, target.Path, bytes)) : error;
 }
 
 } // namespace

@@ -1,0 +1,90 @@
+#include "tests/e2e/InstalledProgram.h"
+
+#include <QDate>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QProcess>
+#include <stdexcept>
+
+namespace {
+
+QByteArray ReadFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw std::runtime_error("Cannot read " + path.toStdString());
+    }
+    return file.readAll();
+}
+
+} // namespace
+
+EditionNames EnglishNames() {
+    return {QStringLiteral("english"),
+            QStringLiteral("gradewell-config"),
+            QStringLiteral("Gradewell 2016 Config"),
+            QStringLiteral("Gradewell - GENERAL OPTIONS"),
+            QStringLiteral("PRINTER FONT ERROR"),
+            QStringLiteral("GWTCY_2016.exe"),
+            QStringLiteral("alt+x"),
+            QStringLiteral("alt+s")};
+}
+
+EditionNames FrenchNames() {
+    return {QStringLiteral("french"),
+            QStringLiteral("carnelle-config"),
+            QStringLiteral("Carnelle 2016 Config"),
+            QStringLiteral("Carnelle - GENERAL OPTIONS"),
+            QStringLiteral("Erreur de police d'imprimante"),
+            QStringLiteral("CNT_2016.exe"),
+            QStringLiteral("alt+q"),
+            QStringLiteral("alt+e")};
+}
+
+InstalledProgram::InstalledProgram(const EditionNames& edition) : Edition(edition) {
+    QProcess installer;
+    installer.start(QStringLiteral(E2E_CMAKE),
+                    {QStringLiteral("--install"), QStringLiteral(E2E_BUILD), QStringLiteral("--prefix"), Folder(),
+                     QStringLiteral("--component"), edition.Component});
+    if (!installer.waitForFinished(-1) || installer.exitCode() != 0) {
+        throw std::runtime_error("Cannot install: " + installer.readAllStandardError().toStdString());
+    }
+}
+
+void InstalledProgram::Write(const QString& name, const QByteArray& bytes) {
+    QFile file(Folder() + QLatin1Char('/') + name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        throw std::runtime_error("Cannot write " + name.toStdString());
+    }
+}
+
+void InstalledProgram::MakeFolder(const QString& name) {
+    QDir(Folder()).mkpath(name);
+}
+
+void InstalledProgram::Remove(const QString& name) {
+    QFile::remove(Folder() + QLatin1Char('/') + name);
+}
+
+bool InstalledProgram::Exists(const QString& name) const {
+    return QFile::exists(Folder() + QLatin1Char('/') + name);
+}
+
+QByteArray InstalledProgram::Read(const QString& name) const {
+    return Exists(name) ? ReadFile(Folder() + QLatin1Char('/') + name) : QByteArray();
+}
+
+QStringList InstalledProgram::Files() const {
+    QStringList files;
+    QDirIterator walk(Folder(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        files.append(QDir(Folder()).relativeFilePath(walk.next()));
+    }
+    files.sort();
+    return files;
+}
+
+QByteArray Golden(const QString& name) {
+    return ReadFile(QStringLiteral(E2E_GOLDENS "/") + name)
+        .replace("@YEAR@", QByteArray::number(QDate::currentDate().year()));
+}

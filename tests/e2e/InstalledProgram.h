@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// The names and titles of one edition.
+struct EditionNames {
+    QString Component; ///< what cmake --install calls it
+    QString Executable;
+    QString MenuTitle;
+    QString OptionsTitle;    ///< of the General Options window
+    QString PrinterTitle;    ///< of the message that a machine without a printer shows at the start
+    QString TransferProgram; ///< the file whose presence shows the Transfer area
+    QString ExitKeys;        ///< access keys of Exit in the menu and of Save in an options window
+    QString SaveKeys;
+};
+
+EditionNames EnglishNames();
+EditionNames FrenchNames();
+
+/// A program folder in a temporary folder, made by the project's own install rules.
+class InstalledProgram {
+public:
+    explicit InstalledProgram(const EditionNames& edition);
+
+    const EditionNames Edition;
+
+    QString Folder() const { return directory.path(); }
+    /// Files of the folder by their name below it.
+    void Write(const QString& name, const QByteArray& bytes);
+    void MakeFolder(const QString& name);
+    void Remove(const QString& name);
+    bool Exists(const QString& name) const;
+    QByteArray Read(const QString& name) const;
+    /// All files, as paths below the folder, sorted.
+    QStringList Files() const;
+
+private:
+    QTemporaryDir directory;
+};
+
+/// A file of tests/data/e2e; "@YEAR@" in it stands for the current year.
+QByteArray Golden(const QString& name);

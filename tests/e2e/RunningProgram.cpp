@@ -1,0 +1,168 @@
+#include "tests/e2e/RunningProgram.h"
+
+#include "tests/e2e/Screen.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QThread>
+#include <stdexcept>
+
+namespace {
+
+constexpr int Patience = 30'000; // milliseconds; a loaded machine is slow, a broken program never gets there
+constexpr unsigned long BetweenLooks = 15;
+
+[[noreturn]] void Fail(const QString& what) {
+    throw std::runtime_error(what.toStdString());
+}
+
+/// A home that holds no settings, no running services and no printers.
+QProcessEnvironment CleanEnvironment(const QString& home) {
+    QProcessEnvironment environment;
+    const QProcessEnvironment mine = QProcessEnvironment::systemEnvironment();
+    for (const QString& kept :
+         {QStringLiteral("PATH"), QStringLiteral("DISPLAY"), QStringLiteral("TZ"), QStringLiteral("LD_LIBRARY_PATH")}) {
+        if (mine.contains(kept)) {
+            environment.insert(kept, mine.value(kept));
+        }
+    }
+    for (const QString& folder :
+         {QStringLiteral("HOME"), QStringLiteral("XDG_CONFIG_HOME"), QStringLiteral("XDG_DATA_HOME"),
+          QStringLiteral("XDG_CACHE_HOME"), QStringLiteral("XDG_RUNTIME_DIR")}) {
+        environment.insert(folder, home);
+    }
+    environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
+    environment.insert(QStringLiteral("CUPS_SERVER"), home + QStringLiteral("/no-print-service"));
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("probe"));
+    environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(E2E_PLUGINS));
+    return environment;
+}
+
+} // namespace
+
+RunningProgram::RunningProgram(const QString& folder, const QString& executable, const QStringList& environment) {
+    QProcessEnvironment clean = CleanEnvironment(home.path());
+    for (const QString& setting : environment) {
+        const qsizetype equals = setting.indexOf(QLatin1Char('='));
+        clean.insert(setting.left(equals), setting.mid(equals + 1));
+    }
+    process.setProcessEnvironment(clean);
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.setWorkingDirectory(home.path()); // its files are in its own folder, wherever it was started from
+    process.start(QDir(folder).absoluteFilePath(executable), QStringList());
+    if (!process.waitForStarted(Patience)) {
+        Fail(QStringLiteral("Cannot start %1 in %2: %3").arg(executable, folder, process.errorString()));
+    }
+}
+
+RunningProgram::~RunningProgram() {
+    if (process.state() != QProcess::NotRunning) {
+        process.kill();
+        process.waitForFinished(Patience);
+    }
+}
+
+SeenScreen RunningProgram::Look() {
+    process.write("?");
+    QElapsedTimer clock;
+    clock.start();
+    while (!process.canReadLine()) {
+        if (process.state() == QProcess::NotRunning) {
+            return {}; // it ended: nothing is on the screen any more
+        }
+        if (clock.elapsed() > Patience) {
+            Fail(QStringLiteral("The program does not answer"));
+        }
+        process.waitForReadyRead(100);
+    }
+    return ReadAnswer(process.readLine());
+}
+
+SeenScreen RunningProgram::Await(const QString& what, const std::function<bool(const SeenScreen&)>& condition) {
+    QElapsedTimer clock;
+    clock.start();
+    for (;;) {
+        const SeenScreen seen = Look();
+        if (condition(seen)) {
+            return seen;
+        }
+        if (clock.elapsed() > Patience || process.state() == QProcess::NotRunning) {
+            const QString state = process.state() == QProcess::NotRunning
+                                      ? QStringLiteral("the program has ended with %1").arg(process.exitCode())
+                                      : QStringLiteral("there is: %1").arg(seen.Titles());
+            Fail(QStringLiteral("Waited for %1; %2").arg(what, state));
+        }
+        QThread::msleep(BetweenLooks);
+    }
+}
+
+SeenWindow RunningProgram::AwaitWindow(const QString& title) {
+    const auto active = [&title](const SeenScreen& screen) {
+        const SeenWindow* window = screen.Window(title);
+        return window != nullptr && window->Active;
+    };
+    return *Await(QStringLiteral("the window \"%1\"").arg(title), active).Window(title);
+}
+
+void RunningProgram::AwaitNoWindow(const QString& title) {
+    Await(QStringLiteral("the window \"%1\" to go").arg(title),
+          [&title](const SeenScreen& screen) { return screen.Window(title) == nullptr; });
+}
+
+SeenControl RunningProgram::AwaitControl(const QString& title, const QString& control, const QString& what,
+                                         const std::function<bool(const SeenControl&)>& condition) {
+    SeenControl found;
+    Await(QStringLiteral("%1 of \"%2\" %3").arg(control, title, what), [&](const SeenScreen& screen) {
+        const SeenWindow* window = screen.Window(title);
+        if (window == nullptr || !window->Active) {
+            return false;
+        }
+        found = window->Control(control);
+        return condition(found);
+    });
+    return found;
+}
+
+SeenControl RunningProgram::AwaitText(const QString& title, const QString& control, const QString& text) {
+    return AwaitControl(title, control, QStringLiteral("to show \"%1\"").arg(text),
+                        [&text](const SeenControl& seen) { return seen.Text == text; });
+}
+
+void RunningProgram::Click(const QString& title, const QString& control) {
+    const SeenControl seen =
+        AwaitControl(title, control, QStringLiteral("to be ready for a click"),
+                     [](const auto& now) { return now.Visible && now.Enabled && !now.Place.isEmpty(); });
+    if (!seen.CoveredBy.isEmpty()) {
+        Fail(QStringLiteral("%1 of \"%2\" cannot be clicked: %3 lies over it").arg(control, title, seen.CoveredBy));
+    }
+    ClickAt(seen.Place.center());
+}
+
+void RunningProgram::Press(const QString& title, const QString& chord) {
+    AwaitWindow(title);
+    PressKey(chord);
+}
+
+void RunningProgram::Enter(const QString& title, const QString& textBox, const QString& text) {
+    Click(title, textBox);
+    AwaitControl(title, textBox, QStringLiteral("to take the keyboard"), [](const auto& seen) { return seen.Focused; });
+    PressKey(QStringLiteral("ctrl+a"));
+    TypeText(text);
+    AwaitText(title, textBox, text);
+}
+
+void RunningProgram::TakePicture(const QString& title, const QString& file) {
+    SavePicture(AwaitWindow(title).Place, file);
+}
+
+int RunningProgram::AwaitEnd() {
+    process.closeWriteChannel();
+    if (!process.waitForFinished(Patience)) {
+        Fail(QStringLiteral("The program does not end"));
+    }
+    if (process.exitStatus() != QProcess::NormalExit) {
+        Fail(QStringLiteral("The program crashed"));
+    }
+    return process.exitCode();
+}

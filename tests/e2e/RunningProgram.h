@@ -1,0 +1,46 @@
+#pragma once
+
+#include "tests/e2e/Seen.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <functional>
+
+/// The real program, started from a program folder on the display of this process and watched through the probe. It
+/// runs with a home of its own and without printers, so that nothing of this machine's user reaches it. Every routine
+/// waits until what it needs is there and throws std::runtime_error, saying what is there instead, after half a minute.
+class RunningProgram {
+public:
+    /// Starts the executable in the folder; `environment` adds or replaces variables ("NAME=value").
+    RunningProgram(const QString& folder, const QString& executable, const QStringList& environment = {});
+    /// Kills the program if it still runs.
+    ~RunningProgram();
+
+    /// What is on the screen now.
+    SeenScreen Look();
+    /// Waits until the condition holds; `what` names it in the message of a failure.
+    SeenScreen Await(const QString& what, const std::function<bool(const SeenScreen&)>& condition);
+    /// Waits until the window of that title has the keyboard.
+    SeenWindow AwaitWindow(const QString& title);
+    void AwaitNoWindow(const QString& title);
+    /// Waits until the control satisfies the condition.
+    SeenControl AwaitControl(const QString& title, const QString& control, const QString& what,
+                             const std::function<bool(const SeenControl&)>& condition);
+    SeenControl AwaitText(const QString& title, const QString& control, const QString& text);
+
+    /// Clicks the middle of a control with the mouse, once its window is active and it can be seen and used.
+    void Click(const QString& title, const QString& control);
+    /// Presses a key or chord in the window, once it is active.
+    void Press(const QString& title, const QString& chord);
+    /// Clicks a text box, replaces its text and waits until it shows the new one.
+    void Enter(const QString& title, const QString& textBox, const QString& text);
+    /// Saves a picture of the window with its frame.
+    void TakePicture(const QString& title, const QString& file);
+
+    /// Waits until the program has ended and returns its exit status.
+    int AwaitEnd();
+
+private:
+    QTemporaryDir home;
+    QProcess process;
+};

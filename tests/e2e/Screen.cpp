@@ -1,0 +1,75 @@
+#include "tests/e2e/Screen.h"
+
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QProcess>
+#include <QScreen>
+#include <QThread>
+#include <stdexcept>
+
+namespace {
+
+constexpr int MillisecondsForOneStep = 20'000;
+constexpr unsigned long MillisecondsBetweenLooks = 60;
+
+void SendEvents(const QStringList& arguments) {
+    QProcess sender;
+    sender.start(QStringLiteral("xdotool"), arguments);
+    if (!sender.waitForFinished(MillisecondsForOneStep) || sender.exitCode() != 0) {
+        throw std::runtime_error("xdotool " + arguments.join(QLatin1Char(' ')).toStdString() +
+                                 " failed: " + sender.readAllStandardError().toStdString());
+    }
+}
+
+QStringList Move(const QPoint& place) {
+    return {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())};
+}
+
+QImage Look(const QRect& part) {
+    QScreen* screen = QGuiApplication::primaryScreen();
+    return screen->grabWindow(0, part.x(), part.y(), part.width(), part.height()).toImage();
+}
+
+} // namespace
+
+void ClickAt(const QPoint& place) {
+    SendEvents(Move(place) + QStringList{QStringLiteral("click"), QStringLiteral("1")});
+}
+
+void DoubleClickAt(const QPoint& place) {
+    SendEvents(Move(place) + QStringList{QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"),
+                                         QStringLiteral("--delay"), QStringLiteral("20"), QStringLiteral("1")});
+}
+
+void DragFromTo(const QPoint& from, const QPoint& to) {
+    SendEvents(Move(from) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")});
+    constexpr int Moves = 8;
+    for (int step = 1; step <= Moves; ++step) {
+        SendEvents(Move(from + (to - from) * step / Moves));
+    }
+    SendEvents({QStringLiteral("mouseup"), QStringLiteral("1")});
+}
+
+void PressKey(const QString& chord) {
+    SendEvents({QStringLiteral("key"), chord});
+}
+
+void TypeText(const QString& text) {
+    SendEvents({QStringLiteral("type"), QStringLiteral("--"), text});
+}
+
+void SavePicture(const QRect& part, const QString& file) {
+    QImage before = Look(part);
+    for (int looks = 0; looks < MillisecondsForOneStep / int(MillisecondsBetweenLooks); ++looks) {
+        QThread::msleep(MillisecondsBetweenLooks);
+        const QImage now = Look(part);
+        if (now == before && !now.isNull()) {
+            if (!now.save(file)) {
+                throw std::runtime_error("Cannot write the picture " + file.toStdString());
+            }
+            return;
+        }
+        before = now;
+    }
+    throw std::runtime_error("The screen does not stand still for the picture " + file.toStdString());
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QString>
+#include <QStringList>
+
+/// The display that the program runs on, worked like a person does: real mouse and key events from the display server.
+/// Every routine throws std::runtime_error when the display refuses.
+
+void ClickAt(const QPoint& place);
+void DoubleClickAt(const QPoint& place);
+/// Presses the left button at one place and releases it at another, with moves between.
+void DragFromTo(const QPoint& from, const QPoint& to);
+/// Presses a key or chord, such as "Tab", "alt+x" or "shift+Tab".
+void PressKey(const QString& chord);
+/// Types characters of the basic Latin alphabet.
+void TypeText(const QString& text);
+
+/// Saves a part of the screen as a PNG once it stands still.
+void SavePicture(const QRect& part, const QString& file);
