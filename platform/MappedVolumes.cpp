@@ -25,10 +25,10 @@ NativePath Normal(const NativePath& path) {
     return normal.has_filename() || !normal.has_relative_path() ? normal : normal.parent_path();
 }
 
-// The components below the drive, "." and ".." resolved (the root's ".." is the root). As on the stations, a forward
-// slash separates, too. Fails for a name that no file can have.
-bool SplitComponents(QString below, QStringList& components) {
-    const QStringList parts = below.replace(u'/', u'\\').split(u'\\', Qt::SkipEmptyParts);
+// The components below the drive, "." and ".." resolved (the root's ".." is the root). Fails for a name that no file
+// can have.
+bool SplitComponents(const QString& below, QStringList& components) {
+    const QStringList parts = below.split(u'\\', Qt::SkipEmptyParts);
     for (const QString& part : parts) {
         if (part.contains(QChar(u'\0'))) {
             return false;

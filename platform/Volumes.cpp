@@ -10,7 +10,7 @@ constexpr qsizetype DriveLength = 2;
 } // namespace
 
 QString Volumes::WholePath(const QString& path) const {
-    const QString trimmed = TrimBlanks(path);
+    const QString trimmed = TrimBlanks(path).replace(u'/', u'\\');
     const QString drive = DriveOf(trimmed);
     if (drive.isEmpty()) {
         return trimmed.size() > 1 ? WithoutTrailingBackslash(trimmed) : trimmed;

@@ -142,8 +142,8 @@ TEST(MappedVolumes, TellsWhyAPathLeadsNowhere) {
         int Number;
     } cases[] = {
         {"d:\\x", 68},       {"d:", 68},        {"", 52},     {"   ", 52},     {"x.cfg", 52},
-        {"\\x.cfg", 52},     {"\\\\pc\\s", 52}, {"1:\\", 52}, {"c:\\a/b", 52}, {"c:\\gone\\x", 76},
-        {"c:\\file\\x", 76}, {"c:\\x", 0},      {"c:/x", 52}, {"c:\\file", 0}, {"c:\\gone\\a\\b", 76},
+        {"\\x.cfg", 52},     {"\\\\pc\\s", 52}, {"1:\\", 52}, {"c:\\a/b", 76}, {"c:\\gone\\x", 76},
+        {"c:\\file\\x", 76}, {"c:\\x", 0},      {"c:/x", 0}, {"c:\\file", 0}, {"c:\\gone\\a\\b", 76},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(folder.Drives.ToNative(Text(row.Path)).Error.Number, row.Number) << row.Path;
@@ -152,6 +152,16 @@ TEST(MappedVolumes, TellsWhyAPathLeadsNowhere) {
     EXPECT_EQ(folder.Drives.ToNative(withNul).Error.Number, 52);
     const QString longName = Text("c:\\") + QString(300, u'n') + Text("\\x");
     EXPECT_EQ(folder.Drives.ToNative(longName).Error.Number, 52);
+}
+
+TEST(MappedVolumes, AForwardSlashSeparatesToo) {
+    TestFolder folder;
+    folder.Write(Text("c:\\gradewell\\TOOL.exe"), "x");
+    for (const char* path : {"c:\\gradewell/tool.exe", "c:/gradewell/TOOL.exe", "c:\\gradewell\\/TOOL.exe"}) {
+        const auto found = folder.Drives.ToNative(Text(path));
+        EXPECT_EQ(found.Error.Number, 0) << path;
+        EXPECT_TRUE(std::filesystem::exists(found.Path)) << path;
+    }
 }
 
 TEST(MappedVolumes, ADriveWhoseFolderCannotBeReadIsNotReady) {
