@@ -195,13 +195,12 @@ void FolderPicker::Browse() {
     dialog.FileName = DummyFileIn(Folder->Path());
     dialog.PathMustExist = rules.PathMustExist;
     const FileDialogAnswer answer = TheDesktop().AskForFile(dialog);
-    const QString folder = FolderOf(answer.FileName);
+    const QString folder = PickedFolder(answer.FileName);
     if (answer.Error || folder.isEmpty()) {
         return;
     }
     const QScopedValueRollback<bool> browsing(settingLists, true);
-    // A name in a root leaves its drive alone, which would stand for the drive's current folder.
-    if (!Open(folder.size() == 2 ? folder + QLatin1Char('\\') : folder)) {
+    if (!Open(folder)) {
         return;
     }
     ShowDriveOf(rules.BrowseClearsDrive ? QString() : Folder->Path());

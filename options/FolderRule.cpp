@@ -28,3 +28,8 @@ QString DummyFileIn(const QString& folder) {
     const QString name = QStringLiteral("Don't_Delete_Me");
     return folder.isEmpty() ? name : WithoutTrailingBackslash(folder) + QLatin1Char('\\') + name;
 }
+
+QString PickedFolder(const QString& fileName) {
+    const QString folder = FolderOf(fileName);
+    return folder.size() == 2 && folder.endsWith(u':') ? folder + u'\\' : folder;
+}
