@@ -20,7 +20,7 @@ namespace {
 constexpr int DialogFontSize = 12; // points, preset in the font dialog
 constexpr int SampleFontSize = 22; // points
 constexpr int ResultFontSize = 18;
-constexpr int SampleHeight = 56;   // logical pixels
+constexpr int SampleHeight = 56; // logical pixels
 constexpr int ResultWidth = 150;
 
 const QString PlainFont = QStringLiteral("MS Sans Serif");
@@ -115,8 +115,10 @@ void BarCodePanel::NameFields(bool french) {
     for (int field = 0; field < FieldCount; ++field) {
         const auto i = static_cast<std::size_t>(field);
         const QString number = QString::number(field + 1);
-        txtBCADesc[i]->setAccessibleName((french ? QStringLiteral("Description du champ ") : QStringLiteral("Description of field ")) + number);
-        cboBCACode[i]->setAccessibleName((french ? QStringLiteral("Code du champ ") : QStringLiteral("Code of field ")) + number);
+        txtBCADesc[i]->setAccessibleName(
+            (french ? QStringLiteral("Description du champ ") : QStringLiteral("Description of field ")) + number);
+        cboBCACode[i]->setAccessibleName(
+            (french ? QStringLiteral("Code du champ ") : QStringLiteral("Code of field ")) + number);
     }
 }
 

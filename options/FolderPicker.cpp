@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr int Spacing = 4;            // logical pixels
-constexpr int LeastListHeight = 64;   // four folders
+constexpr int Spacing = 4;          // logical pixels
+constexpr int LeastListHeight = 64; // four folders
 const QString FallBackDrive = QStringLiteral("c:");
 
 template <typename Control>

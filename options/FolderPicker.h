@@ -13,17 +13,17 @@ class QPushButton;
 
 /// What tells one window's folder picking from another's.
 struct FolderPickerRules {
-    QString NoticeTitle;         ///< information box before the dialog of Browse
+    QString NoticeTitle; ///< information box before the dialog of Browse
     QString NoticeText;
-    QString DialogTitle;         ///< the Save dialog that lets the user move to the folder
+    QString DialogTitle; ///< the Save dialog that lets the user move to the folder
     bool PathMustExist = false;
-    QString FolderRuleTitle;     ///< title of the warning about 'GW' folders; empty: they pass without a word
-    QString PathErrorTitle;      ///< title of the Retry / Cancel question about a folder that cannot be read
-    QString PathErrorOpening;    ///< its text before the path: "The DEFAULT PATH ["
-    bool DropUnreadable = false; ///< a folder that cannot be read when Load is called is dropped without a word
-    bool DriveErrorLoud = false; ///< "DISK ERROR" with the exclamation icon and the drive in capitals
-    bool ClearEmptiesLists = false;  ///< Clear empties the folder list and selects no drive, too
-    bool BrowseClearsDrive = false;  ///< after Browse no drive is selected; otherwise that of the chosen folder
+    QString FolderRuleTitle;        ///< title of the warning about 'GW' folders; empty: they pass without a word
+    QString PathErrorTitle;         ///< title of the Retry / Cancel question about a folder that cannot be read
+    QString PathErrorOpening;       ///< its text before the path: "The DEFAULT PATH ["
+    bool DropUnreadable = false;    ///< a folder that cannot be read when Load is called is dropped without a word
+    bool DriveErrorLoud = false;    ///< "DISK ERROR" with the exclamation icon and the drive in capitals
+    bool ClearEmptiesLists = false; ///< Clear empties the folder list and selects no drive, too
+    bool BrowseClearsDrive = false; ///< after Browse no drive is selected; otherwise that of the chosen folder
 };
 
 /// Object names of the picker's controls.
@@ -46,8 +46,8 @@ class FolderPicker : public QWidget {
 public:
     FolderPicker(const FolderPickerNames& names, FolderPickerRules rules, QWidget* parent = nullptr);
 
-    /// Shows a stored folder: lists, label and check. An empty one leaves all empty. Returns false when the rules drop a
-    /// folder that cannot be read; lists and label are then empty. Warns at most once.
+    /// Shows a stored folder: lists, label and check. An empty one leaves all empty. Returns false when the rules drop
+    /// a folder that cannot be read; lists and label are then empty. Warns at most once.
     bool Load(const QString& folder);
 
     /// The label takes the folder list's path in small letters; a folder that cannot be read brings the question, one

@@ -22,8 +22,9 @@ void ConstructHtmlFileName(const QString& s, const QString& C, const QString& Ki
         Sp2.clear();
     }
     const QStringList names = {
-        KidNumb + Sp1 + C,           C + Sp1 + KidNumb,           s + Sp1 + KidNumb + Sp2 + C, s + Sp1 + C + Sp2 + KidNumb,
-        KidNumb + Sp1 + C + Sp2 + s, C + Sp1 + KidNumb + Sp2 + s, KidNumb + Sp1 + s + Sp2 + C, C + Sp1 + s + Sp2 + KidNumb,
+        KidNumb + Sp1 + C,           C + Sp1 + KidNumb,           s + Sp1 + KidNumb + Sp2 + C,
+        s + Sp1 + C + Sp2 + KidNumb, KidNumb + Sp1 + C + Sp2 + s, C + Sp1 + KidNumb + Sp2 + s,
+        KidNumb + Sp1 + s + Sp2 + C, C + Sp1 + s + Sp2 + KidNumb,
     };
     if (Order >= 0 && Order < HtmlOrderCount) {
         name = names[Order] + QStringLiteral(".htm");

@@ -19,8 +19,8 @@ class HtmlPanel : public SetupPanel {
 public:
     explicit HtmlPanel(QWidget* parent);
 
-    /// Fills the order list anew and selects the stored order, which builds the example. An order outside 0 to 7 selects
-    /// nothing and is kept.
+    /// Fills the order list anew and selects the stored order, which builds the example. An order outside 0 to 7
+    /// selects nothing and is kept.
     void FillOrders();
 
     void Load();
@@ -28,8 +28,8 @@ public:
     /// Puts the folder's label into the settings record.
     void Save() const;
 
-    /// Leaves the file name in the window's example name. All arguments are the settings themselves; with a blank school
-    /// ID one of the separators may become empty.
+    /// Leaves the file name in the window's example name. All arguments are the settings themselves; with a blank
+    /// school ID one of the separators may become empty.
     void HTML_FileNameConstruct(QString& s, const QString& C, const QString& KidNumb, QString& Sp1, QString& Sp2,
                                 std::int16_t& Order);
 

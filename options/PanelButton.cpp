@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int BarWidth = 4;      // logical pixels
+constexpr int BarWidth = 4; // logical pixels
 constexpr int TextLeft = 12;
 constexpr int LeastHeight = 30;
 

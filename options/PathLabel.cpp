@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int Margin = 4;        // logical pixels between frame and text
+constexpr int Margin = 4; // logical pixels between frame and text
 constexpr int PreferredWidth = 240;
 constexpr int LeastWidth = 80;
 

@@ -25,13 +25,14 @@ QString HtmlFolderNotice() {
 }
 
 Message PhotoNotice() {
-    return {QStringLiteral("PATH TO STUDENT PHOTOGRAPHS"),
-            QStringLiteral("Please use the 'Look in' list in the next dialog box to find the path to the photographs of "
-                           "your students. You're looking for files named using Student Numbers with 'BMP' or 'JPG' at "
-                           "the end. \n\n"
-                           "To complete the process, click on any one of these files to place its name in the 'File "
-                           "Name' box and then click on 'Open'."),
-            MessageButtons::Ok, MessageIcon::Information};
+    return {
+        QStringLiteral("PATH TO STUDENT PHOTOGRAPHS"),
+        QStringLiteral("Please use the 'Look in' list in the next dialog box to find the path to the photographs of "
+                       "your students. You're looking for files named using Student Numbers with 'BMP' or 'JPG' at "
+                       "the end. \n\n"
+                       "To complete the process, click on any one of these files to place its name in the 'File "
+                       "Name' box and then click on 'Open'."),
+        MessageButtons::Ok, MessageIcon::Information};
 }
 
 FileDialog PhotoDialog() {
@@ -52,8 +53,8 @@ PhotoChoice ChoosePhoto(const QString& fileName) {
 }
 
 Message InvalidPhoto(const QString& fileName, const QString& extension) {
-    return {QStringLiteral("PHOTO FILE ERROR"), QStringLiteral("Invalid Path (") + fileName +
-                                                    QStringLiteral(") or Extension (") + extension +
-                                                    QStringLiteral(") to student photo files."),
+    return {QStringLiteral("PHOTO FILE ERROR"),
+            QStringLiteral("Invalid Path (") + fileName + QStringLiteral(") or Extension (") + extension +
+                QStringLiteral(") to student photo files."),
             MessageButtons::Ok, MessageIcon::None};
 }

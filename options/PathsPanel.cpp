@@ -53,12 +53,12 @@ void PathsPanel::AddFolderFrames() {
     const Frame backups = NewFrame("fraBackupPath", this);
     classFrame = classes.Box;
     backupFrame = backups.Box;
-    data = new FolderPicker(DataNames,
-                            RulesFor(QStringLiteral("Locate Gradewell Data Folders"), QStringLiteral("Gradewell Path Error")),
-                            classFrame);
-    backup = new FolderPicker(BackupNames,
-                              RulesFor(QStringLiteral("Set Gradewell Backup Path"), QStringLiteral("Backup Path Error")),
-                              backupFrame);
+    data = new FolderPicker(
+        DataNames, RulesFor(QStringLiteral("Locate Gradewell Data Folders"), QStringLiteral("Gradewell Path Error")),
+        classFrame);
+    backup = new FolderPicker(
+        BackupNames, RulesFor(QStringLiteral("Set Gradewell Backup Path"), QStringLiteral("Backup Path Error")),
+        backupFrame);
     classes.Column->addWidget(data);
     backups.Column->addWidget(backup);
     Column->addWidget(classFrame);

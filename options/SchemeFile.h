@@ -22,8 +22,8 @@ struct Scheme {
 };
 
 inline constexpr int HighestSchemePosition = 18;
-inline constexpr int LongestSymbol = 3;        // characters
-inline constexpr int LongestValue = 2;         // digits that can be typed
+inline constexpr int LongestSymbol = 3; // characters
+inline constexpr int LongestValue = 2;  // digits that can be typed
 inline constexpr double HighestSchemeValue = 99;
 
 /// What reading a scheme file gave: a scheme of 2 to 19 pairs, or a pair that is none ("INVALID DATA"), or an error.

@@ -46,7 +46,8 @@ void ReportSaveError(const QString& fileName, const SystemError& error) {
 } // namespace
 
 SchemePanel::SchemePanel(QWidget* parent)
-    : SetupPanel(6, parent), fields(new SchemeFields(this)), cboABCLevels(NewControl<DropDownList>("cboABCLevels", this)),
+    : SetupPanel(6, parent), fields(new SchemeFields(this)),
+      cboABCLevels(NewControl<DropDownList>("cboABCLevels", this)),
       txtABCHeading(NewControl<TextBox>("txtABCHeading", this)), cmdLoadScheme(NewButton("cmdLoadScheme", this)),
       cmdClearScheme(NewButton("cmdClearScheme", this)), cmdSaveScheme(NewButton("cmdSaveScheme", this)),
       cmdABCCheck(NewButton("cmdABCCheck", this)) {

@@ -61,15 +61,17 @@ constexpr auto Texts = std::to_array<Caption>({
     {"fraDFormat", "Date Format", "Format des dates"},
     {"lblDF1",
      "Today's date is displayed and printed throughout Gradewell. Please select a default format from this list.",
-     "La date aujourd'hui est affichée et imprimée partout dans ce logiciel. Veuillez choisir la forme que vous désirez "
+     "La date aujourd'hui est affichée et imprimée partout dans ce logiciel. Veuillez choisir la forme que vous "
+     "désirez "
      "utiliser  de la liste à la gauche."},
 
     // Email
     {"lblEM1", SAME_IN_BOTH("Teachers can send email to students and parents from within Gradewell.")},
     {"lblEM2",
-     SAME_IN_BOTH("Email is sent by connecting directly to an email server rather than using a program such as Outlook. "
-                  "In order to do this, the name (or IP address) of the SMTP server (host) must be entered in the space "
-                  "below.")},
+     SAME_IN_BOTH(
+         "Email is sent by connecting directly to an email server rather than using a program such as Outlook. "
+         "In order to do this, the name (or IP address) of the SMTP server (host) must be entered in the space "
+         "below.")},
     {"lblSMTP", SAME_IN_BOTH("SMTP Host Name:")},
 
     // Bar-coded attendance
@@ -94,7 +96,8 @@ constexpr auto Texts = std::to_array<Caption>({
     {"lblBCAResult", "Printed as", "Imprimé"},
     {"lblBCAField", "Field", "Champ"},
     {"lblBCAOpt",
-     "Up to three characters can be printed as bar codes beside the student numbers, each with a description of what it "
+     "Up to three characters can be printed as bar codes beside the student numbers, each with a description of what "
+     "it "
      "stands for. They are saved only when a bar code font is chosen.",
      "Jusqu'à trois caractères peuvent être imprimés en codes à barres à côté des numéros d'élèves, chacun avec une "
      "description de sa signification. Ils ne sont enregistrés que si une police de codes à barres est choisie."},
@@ -105,19 +108,22 @@ constexpr auto Texts = std::to_array<Caption>({
     {"lblHCDialog",
      "Check this box if your system requires a printer dialog box to be displayed each time you print. This will allow "
      "the teacher to select a printer everytime a print routine is used.",
-     "Cocher cette boîte si votre système demande l'affichage d'une boîte de dialogue d'imprimante chaque fois que vous "
+     "Cocher cette boîte si votre système demande l'affichage d'une boîte de dialogue d'imprimante chaque fois que "
+     "vous "
      "imprimez."},
     {"fraThickLines", SAME_IN_BOTH("Thick Lines")},
     {"lblThick", SAME_IN_BOTH("Adjust the width of thick lines on printed forms.")},
 
     // HTML student report
     {"lblHTML1", SAME_IN_BOTH("Gradewell can write one HTML report for each student and course.")},
-    {"lblHTML2", SAME_IN_BOTH("The file name of a report is made of the student number and the course code. You can add "
-                              "a school ID and separators, and choose the order of the parts.")},
+    {"lblHTML2",
+     SAME_IN_BOTH("The file name of a report is made of the student number and the course code. You can add "
+                  "a school ID and separators, and choose the order of the parts.")},
     {"lblHTML3", SAME_IN_BOTH("When the school ID is blank, the separator beside it is left out.")},
     {"lblHTML4",
-     SAME_IN_BOTH("Characters, allowed in course codes and School IDs but not permitted in file names will be changed to "
-                  "a tilde (~) by Gradewell. These characters are: /\\:*?<>|")},
+     SAME_IN_BOTH(
+         "Characters, allowed in course codes and School IDs but not permitted in file names will be changed to "
+         "a tilde (~) by Gradewell. These characters are: /\\:*?<>|")},
     {"fraHTML_FileCode", SAME_IN_BOTH("File Names")},
     {"lblSchoolID", SAME_IN_BOTH("School ID:")},
     {"lblSep1", SAME_IN_BOTH("Separator 1 (Sep1):")},

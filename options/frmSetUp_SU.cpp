@@ -205,12 +205,13 @@ void frmSetUp_SU::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmSetUp_SU::FindWordProcessor() {
-    ShowNotice(MessageIcon::Information, QStringLiteral("PATH TO WORD PROCESSOR"),
-               QStringLiteral("Please use the Drive and Folder lists shown in the next dialog box to find your word "
-                              "processor. You're looking for the name of its EXE file. (eg. Word is likely "
-                              "'winword.exe', WordPerfect 'wpwin.exe')\n\n"
-                              "To complete the process, click on the appropriate EXE file to place its name in the 'File "
-                              "Name' box."));
+    ShowNotice(
+        MessageIcon::Information, QStringLiteral("PATH TO WORD PROCESSOR"),
+        QStringLiteral("Please use the Drive and Folder lists shown in the next dialog box to find your word "
+                       "processor. You're looking for the name of its EXE file. (eg. Word is likely "
+                       "'winword.exe', WordPerfect 'wpwin.exe')\n\n"
+                       "To complete the process, click on the appropriate EXE file to place its name in the 'File "
+                       "Name' box."));
     FileDialog dialog;
     dialog.Title = QStringLiteral("Find a Word Processor");
     dialog.Filter = QStringLiteral("Program (*.exe)|*.exe");

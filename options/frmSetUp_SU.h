@@ -16,8 +16,8 @@ class SchemePanel;
 class SchoolYearPanel;
 class SetupPanel;
 
-/// General Options: seven panels, a button for each, Save and Cancel. The window shows the settings record as it is when
-/// the window is made; Save writes the edits back into it and has it written to the configuration files.
+/// General Options: seven panels, a button for each, Save and Cancel. The window shows the settings record as it is
+/// when the window is made; Save writes the edits back into it and has it written to the configuration files.
 class frmSetUp_SU : public QDialog {
     Q_OBJECT
 
