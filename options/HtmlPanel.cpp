@@ -58,12 +58,12 @@ void HtmlPanel::AddNameFrame() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(Spacing::Gap);
     grid->setVerticalSpacing(Spacing::Gap);
-    grid->setColumnStretch(2, 1);
+    grid->setColumnStretch(1, 1);
     AddNameRow(grid, "lblSchoolID", txtHTML_School, "lblSep5");
     AddNameRow(grid, "lblSep1", txtHTML_File_Sep1, "lblSep6");
     AddNameRow(grid, "lblSep2", txtHTML_File_Sep2, "lblSep7");
-    AddNameRow(grid, "lblSep3", cboHTML_FileNameOrder, "lblSep8");
-    AddNameRow(grid, "lblSep4", lblHTML_FileNameExample, nullptr);
+    AddNameRow(grid, "lblSep3", cboHTML_FileNameOrder, nullptr);
+    AddNameRow(grid, "lblSep4", lblHTML_FileNameExample, "lblSep8");
     frame.Column->addLayout(grid);
     frame.Column->addWidget(NewExplanation("lblSep9", frame.Box));
     frame.Column->addWidget(NewExplanation("lblSep10", frame.Box));
@@ -73,13 +73,15 @@ void HtmlPanel::AddNameFrame() {
 void HtmlPanel::AddNameRow(QGridLayout* grid, const char* caption, QWidget* control, const char* note) {
     const int row = grid->rowCount();
     QWidget* frame = control->parentWidget();
-    grid->addWidget(NewLabel(caption, frame, control), row, 0);
-    if (note == nullptr) {
-        grid->addWidget(control, row, 1, 1, 2);
-        return;
+    auto* cells = new QHBoxLayout;
+    cells->setSpacing(Spacing::Margin);
+    cells->addWidget(control);
+    if (note != nullptr) {
+        cells->addWidget(NewLabel(note, frame));
     }
-    grid->addWidget(control, row, 1, Qt::AlignLeft);
-    grid->addWidget(NewLabel(note, frame), row, 2);
+    cells->addStretch();
+    grid->addWidget(NewLabel(caption, frame, control), row, 0);
+    grid->addLayout(cells, row, 1);
 }
 
 void HtmlPanel::AddFolderFrame() {

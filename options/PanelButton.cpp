@@ -8,7 +8,7 @@ namespace {
 
 constexpr int BarWidth = 4; // logical pixels
 constexpr int TextLeft = 12;
-constexpr int LeastHeight = 30;
+constexpr int Padding = 10; // above and below the text together
 
 } // namespace
 
@@ -24,11 +24,9 @@ void PanelButton::ShowAsCurrent(bool current) {
     setChecked(current);
 }
 
+// The text may take two lines, bold or not.
 QSize PanelButton::sizeHint() const {
-    QFont bold = font();
-    bold.setBold(true);
-    const int textWidth = QFontMetrics(bold).size(Qt::TextShowMnemonic, text()).width();
-    return {textWidth + 2 * TextLeft, std::max(LeastHeight, QPushButton::sizeHint().height())};
+    return {QPushButton::sizeHint().width(), 2 * fontMetrics().lineSpacing() + Padding};
 }
 
 void PanelButton::paintEvent(QPaintEvent* event) {
@@ -40,7 +38,7 @@ void PanelButton::paintEvent(QPaintEvent* event) {
         painter.fillRect(QRect(3, 5, BarWidth, height() - 10), palette().color(QPalette::Highlight));
     }
     const QRect room = rect().adjusted(TextLeft, 0, -BarWidth, 0);
-    painter.drawItemText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, palette(), isEnabled(), text(),
+    painter.drawItemText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, palette(), isEnabled(), text(),
                          QPalette::ButtonText);
     if (hasFocus()) {
         QStyleOptionFocusRect focus;

@@ -46,5 +46,7 @@ Frame NewFrame(const char* name, QWidget* parent) {
 }
 
 SetupPanel::SetupPanel(int index, QWidget* parent) : QGroupBox(parent), Column(NewColumn(this)) {
+    Column->setContentsMargins(Spacing::Margin, Spacing::Gap, Spacing::Margin, Spacing::Margin);
+    Column->setSpacing(Spacing::Margin);
     setObjectName(IndexedName("p3dSetup", index));
 }

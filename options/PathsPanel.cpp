@@ -61,6 +61,9 @@ void PathsPanel::AddFolderFrames() {
         backupFrame);
     classes.Column->addWidget(data);
     backups.Column->addWidget(backup);
+    for (const Frame& frame : {classes, backups}) {
+        frame.Column->setContentsMargins(Spacing::Margin, 0, Spacing::Margin, Spacing::Gap / 2);
+    }
     Column->addWidget(classFrame);
     Column->addSpacing(TextGap - Column->spacing());
     Column->addWidget(NewExplanation("lblCD1", this));

@@ -65,7 +65,7 @@ void SchemePanel::AddControls() {
         Column->addWidget(NewExplanation(name, this));
     }
     auto* row = new QHBoxLayout;
-    row->setSpacing(2 * Spacing::Margin);
+    row->setSpacing(Spacing::Margin);
     row->addWidget(fields);
     row->addWidget(NewSide(), 1);
     Column->addSpacing(Spacing::Gap);

@@ -70,22 +70,23 @@ void frmSetUp_SU::ArrangeControls() {
     auto* side = new QVBoxLayout;
     side->setSpacing(SideSpacing);
     for (PanelButton* button : cmdSetup) {
+        button->setFixedWidth(SideWidth);
         side->addWidget(button);
     }
     side->addStretch();
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Margin);
+    buttons->addStretch();
+    buttons->addWidget(imgSave);
     buttons->addWidget(cmdPrefSave);
     buttons->addWidget(cmdPrefCancel);
     for (SetupPanel* panel : p3dSetup) {
         grid->addWidget(panel, 0, 0);
     }
     grid->addLayout(side, 0, 1);
-    grid->addWidget(imgSave, 1, 0, Qt::AlignRight | Qt::AlignVCenter);
-    grid->addLayout(buttons, 1, 1);
+    grid->addLayout(buttons, 1, 0, 1, 2);
     grid->setColumnStretch(0, 1);
     grid->setRowStretch(0, 1);
-    grid->setColumnMinimumWidth(1, SideWidth);
     grid->setRowMinimumHeight(1, ButtonRowHeight);
 }
 
