@@ -109,8 +109,21 @@ void FolderList::ShowFolder(const QString& folder, const QStringList& names) {
     }
     expandAll();
     setCurrentItem(current);
-    scrollToItem(topLevelItem(0), QAbstractItemView::PositionAtTop);
-    scrollToItem(current, QAbstractItemView::EnsureVisible);
+    ScrollToFolder();
+}
+
+// As much of the way from the root as fits, and always the current folder.
+void FolderList::ScrollToFolder() {
+    if (currentItem() != nullptr) {
+        scrollToItem(topLevelItem(0), QAbstractItemView::PositionAtTop);
+        scrollToItem(currentItem(), QAbstractItemView::EnsureVisible);
+    }
+}
+
+// The list may have been filled before it had its size.
+void FolderList::resizeEvent(QResizeEvent* event) {
+    QTreeWidget::resizeEvent(event);
+    ScrollToFolder();
 }
 
 QTreeWidgetItem* FolderList::NewEntry(QTreeWidgetItem* parent, const QString& name, const QString& whole,

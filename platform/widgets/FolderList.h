@@ -36,10 +36,12 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QString path;
 
+    void ScrollToFolder();
     void ShowFolder(const QString& folder, const QStringList& names);
     QTreeWidgetItem* NewEntry(QTreeWidgetItem* parent, const QString& name, const QString& whole,
                               QStyle::StandardPixmap icon);

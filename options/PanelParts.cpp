@@ -1,0 +1,52 @@
+#include "options/PanelParts.h"
+
+#include "platform/widgets/ProgramStyle.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+QVBoxLayout* NewColumn(QGroupBox* box) {
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(Spacing::Margin, Spacing::Gap / 2, Spacing::Margin, Spacing::Gap);
+    column->setSpacing(Spacing::Gap);
+    return column;
+}
+
+} // namespace
+
+QString IndexedName(const char* array, int index) {
+    return QStringLiteral("%1(%2)").arg(QString::fromLatin1(array)).arg(index);
+}
+
+QLabel* NewLabel(const char* name, QWidget* parent, QWidget* buddy) {
+    auto* label = NewControl<QLabel>(name, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setBuddy(buddy);
+    return label;
+}
+
+QLabel* NewExplanation(const char* name, QWidget* parent) {
+    QLabel* label = NewLabel(name, parent);
+    label->setWordWrap(true);
+    return label;
+}
+
+QPushButton* NewButton(const char* name, QWidget* parent) {
+    auto* button = NewControl<QPushButton>(name, parent);
+    button->setAutoDefault(false);
+    return button;
+}
+
+Frame NewFrame(const char* name, QWidget* parent) {
+    auto* box = NewControl<QGroupBox>(name, parent);
+    return {box, NewColumn(box)};
+}
+
+SetupPanel::SetupPanel(int index, QWidget* parent) : QGroupBox(parent), Column(NewColumn(this)) {
+    Column->setContentsMargins(Spacing::Margin, Spacing::Gap, Spacing::Margin, Spacing::Margin);
+    Column->setSpacing(Spacing::Margin);
+    setObjectName(IndexedName("p3dSetup", index));
+}

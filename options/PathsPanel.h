@@ -1,0 +1,40 @@
+#pragma once
+
+#include "options/PanelParts.h"
+
+class FolderPicker;
+class PathLabel;
+
+/// Panel 0: the folders of class data, backups and student photographs.
+class PathsPanel : public SetupPanel {
+    Q_OBJECT
+
+public:
+    explicit PathsPanel(QWidget* parent);
+
+    /// Shows the stored folders; data and backup paths are kept in small letters from now on.
+    void LoadDataPath();
+    void LoadBackupPath();
+    void LoadPhotoPath();
+
+    /// Puts the labels of the data and backup folders into the settings record.
+    void Save() const;
+
+    /// The backup folder check: its label follows its folder list.
+    void CheckBackupPath();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QGroupBox* classFrame;
+    QGroupBox* backupFrame;
+    FolderPicker* data;
+    FolderPicker* backup;
+    PathLabel* photos;
+
+    void AddFolderFrames();
+    void AddPhotoFrame();
+    void BrowsePhotos();
+    void ClearPhotos();
+};
