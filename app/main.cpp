@@ -1,12 +1,22 @@
 #include "app/BuiltEdition.h"
 #include "app/frmCFG_IconOnly.h"
 #include "app/frmMaster_SU.h"
+#include "options/frmSetUp_SU.h"
 #include "platform/ProgramDrives.h"
 #include "platform/Volumes.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/widgets/ProgramStyle.h"
 
 #include <QApplication>
+
+namespace {
+
+template <typename Window>
+QDialog* Make(QWidget* parent) {
+    return new Window(parent);
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -20,7 +30,7 @@ int main(int argc, char** argv) {
     for (const QString& complaint : drives.Complaints) {
         ShowNotice(MessageIcon::Exclamation, QStringLiteral("DRIVES.CONF"), complaint);
     }
-    frmMaster_SU menu({});
+    frmMaster_SU menu({.General = Make<frmSetUp_SU>, .Import = {}, .Admin = {}, .Transfer = {}});
     if (!menu.Form_Load(BuiltEdition, drives.ProgramFolder)) {
         return 0;
     }
