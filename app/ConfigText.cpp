@@ -143,7 +143,8 @@ private:
             writer.QuotedLine({title});
         }
         for (const SettingsLine& line : section.Lines) {
-            const int last = line.Repeat == LineRepeat::ImportFields ? config.ImportFieldLast : HighestIndex(line.Repeat);
+            const int last =
+                line.Repeat == LineRepeat::ImportFields ? config.ImportFieldLast : HighestIndex(line.Repeat);
             for (int i = 0; i <= last; ++i) {
                 WriteLine(line, static_cast<std::size_t>(i));
             }

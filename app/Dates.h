@@ -14,7 +14,7 @@ extern QString YearPattern;
 extern QString TodayText;
 extern QString WeekdayAbbrev; ///< three letters and a period
 extern QString WeekdayName;
-extern QString MonthAbbrev;   ///< three letters and a period; no period after May
+extern QString MonthAbbrev; ///< three letters and a period; no period after May
 extern QString MonthName;
 extern std::int16_t LeapYear; ///< 1 when the year given to SetLeapYear is a leap year, else 0
 

@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr int LockTop = 16;    // 240 twips
-constexpr int LockLeft = 552;  // 8280 twips, in a frame of the opening window's width
+constexpr int LockTop = 16;   // 240 twips
+constexpr int LockLeft = 552; // 8280 twips, in a frame of the opening window's width
 constexpr int LockRight = MenuLayout::FrameWidth - LockLeft;
 constexpr int LockSize = 48;
 constexpr int LockHeight = 58;

@@ -17,6 +17,7 @@ void CheckAllowedCharacters(const QString& text, const QString& allowed, std::in
 
 /// Refuses control characters, double quotes, the characters of `refused`, and, unless allowed by a non-zero flag,
 /// commas and line breaks. mode 0 reports the first refused character; mode 1 replaces each by '~' (by a blank when
-/// `refused` is empty) in `text` and sets CleanedText to it without blanks at both ends. Sets ErrorPosition (0 in mode 1).
+/// `refused` is empty) in `text` and sets CleanedText to it without blanks at both ends. Sets ErrorPosition (0 in mode
+/// 1).
 void CheckInputText(QString& text, std::int16_t allowCommas, std::int16_t allowLineBreaks, const QString& refused,
                     std::int16_t mode);

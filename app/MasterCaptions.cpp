@@ -20,7 +20,8 @@ constexpr Caption Table[] = {
     {"cmdGeneral", "&General Options", "&General Options"},
     {"fraImport", "Import Student Data", "Import Student Data"},
     {"lblImport",
-     "Use this to set the path, field matches and update options for the file teachers use to setup their classes. This "
+     "Use this to set the path, field matches and update options for the file teachers use to setup their classes. "
+     "This "
      "data file must already exist. Settings are saved in UPDFIELD.CFG in the same folder as the data file.",
      "Utilisez cette option pour indiquer le chemin, les correspondances de champs et les options de mise à jour du "
      "fichier avec lequel les enseignants créent leurs classes. Ce fichier de données doit déjà exister. Les réglages "

@@ -23,9 +23,10 @@ namespace {
 
 // August is spelt "aôut" in every text of the French gradebook; it looks months up by these names.
 constexpr const char* Months[][2] = {
-    {"January", "janvier"},     {"February", "février"}, {"March", "mars"},        {"April", "avril"},
-    {"May", "mai"},             {"June", "juin"},        {"July", "juillet"},      {"August", "aôut"},
-    {"September", "septembre"}, {"October", "octobre"},  {"November", "novembre"}, {"December", "décembre"},
+    {"January", "janvier"}, {"February", "février"},  {"March", "mars"},
+    {"April", "avril"},     {"May", "mai"},           {"June", "juin"},
+    {"July", "juillet"},    {"August", "aôut"},       {"September", "septembre"},
+    {"October", "octobre"}, {"November", "novembre"}, {"December", "décembre"},
 };
 
 constexpr const char* Weekdays[][2] = {

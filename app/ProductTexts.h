@@ -10,15 +10,15 @@ enum class Edition { English, French };
 extern Edition ProgramEdition;
 
 // Set at start-up by SetProductTexts and alive for the whole run.
-extern QString ProductName;       ///< "Gradewell" or "Carnelle"
-extern QString VersionText;       ///< "2016 CY"
-extern QString WindowTitle;       ///< "Gradewell 2016 Config"; the options windows add a suffix
-extern QString TransferExeName;   ///< the Transfer Program's file; its presence shows the Transfer area
-extern QString ConfigFilesText;   ///< "GW_v11_PRG.CFG and GW_v12_PRG.CFG"; empty in the French edition
-extern QString NoticeText;        ///< "Copyright (c) " and the year
-extern QString TitleLine;         ///< first line of every configuration file; never holds a comma
-extern QString ProgramFolder;     ///< the folder that the program runs from, without a trailing backslash
-extern QString ConfigFileName;    ///< the configuration file that was read
+extern QString ProductName;     ///< "Gradewell" or "Carnelle"
+extern QString VersionText;     ///< "2016 CY"
+extern QString WindowTitle;     ///< "Gradewell 2016 Config"; the options windows add a suffix
+extern QString TransferExeName; ///< the Transfer Program's file; its presence shows the Transfer area
+extern QString ConfigFilesText; ///< "GW_v11_PRG.CFG and GW_v12_PRG.CFG"; empty in the French edition
+extern QString NoticeText;      ///< "Copyright (c) " and the year
+extern QString TitleLine;       ///< first line of every configuration file; never holds a comma
+extern QString ProgramFolder;   ///< the folder that the program runs from, without a trailing backslash
+extern QString ConfigFileName;  ///< the configuration file that was read
 
 /// The button answered in the last message box (MessageAnswer's numbers); ParseDayMonth keeps a weekday number here.
 extern std::int16_t MsgAnswer;

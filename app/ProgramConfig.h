@@ -50,7 +50,7 @@ struct ProgramConfigRecord {
     std::int16_t SchoolYearSecondWord = 1; ///< General Options sets it to 1 together with SchoolYearStartMonth
     std::int16_t TwoDigitYear = 0;         ///< 0: dates show four digits of the year; else two
     QString SchemeHeading;
-    std::int16_t SchemeLast = 0;           ///< highest position in use, 1 to 18
+    std::int16_t SchemeLast = 0; ///< highest position in use, 1 to 18
     std::array<QString, 19> SchemeSymbol;
     std::array<std::int16_t, 19> SchemeValue{}; ///< lower limits in percent
     QString PrinterFontName;

@@ -37,29 +37,31 @@ SettingsLine Quoted(std::vector<SettingsField> fields, LineRepeat repeat = LineR
 }
 
 SettingsSection BarCodeSection() {
-    return {"[Bar Code Attendance]",
-            nullptr,
-            LineForm::Plain,
-            {Plain({Number<&Record::BarCodeDefaultForm>("BarCodeDefaultForm", 0,
-                                                        "1: the bar-coded form is the default attendance form")}),
-             Plain({Number<&Record::BarCodeDefaultFormCopy>("BarCodeDefaultFormCopy", 0,
-                                                            "second copy of the same choice")}),
-             Quoted({Text<&Record::BarCodeFontName>("BarCodeFontName", "", "font of the bar-coded forms; may be empty")}),
-             Plain({{"BarCodeLast", PairCountField{}, "highest index of the pairs that follow"}}),
-             Quoted({Text<&Record::BarCodeDesc>("BarCodeDesc", "", "description of an attendance code"),
-                     Number<&Record::BarCodeCode>("BarCodeCode", 0, "character code printed for it")},
-                    LineRepeat::BarCodePairs)}};
+    return {
+        "[Bar Code Attendance]",
+        nullptr,
+        LineForm::Plain,
+        {Plain({Number<&Record::BarCodeDefaultForm>("BarCodeDefaultForm", 0,
+                                                    "1: the bar-coded form is the default attendance form")}),
+         Plain(
+             {Number<&Record::BarCodeDefaultFormCopy>("BarCodeDefaultFormCopy", 0, "second copy of the same choice")}),
+         Quoted({Text<&Record::BarCodeFontName>("BarCodeFontName", "", "font of the bar-coded forms; may be empty")}),
+         Plain({{"BarCodeLast", PairCountField{}, "highest index of the pairs that follow"}}),
+         Quoted({Text<&Record::BarCodeDesc>("BarCodeDesc", "", "description of an attendance code"),
+                 Number<&Record::BarCodeCode>("BarCodeCode", 0, "character code printed for it")},
+                LineRepeat::BarCodePairs)}};
 }
 
 SettingsSection ImportSection() {
-    return {"[Import Students]",
-            nullptr,
-            LineForm::Quoted,
-            {Quoted({Text<&Record::ImportStudentsFile>("ImportStudentsFile", "", "path of the student data file")}),
-             Quoted({Number<&Record::ImportFieldLast>("ImportFieldLast", 0, "highest index in use of the field names",
-                                                      LastImportField)}),
-             Quoted({Text<&Record::ImportFields>("ImportFields", "", "field names in column order; 0 is the date code")},
-                    LineRepeat::ImportFields)}};
+    return {
+        "[Import Students]",
+        nullptr,
+        LineForm::Quoted,
+        {Quoted({Text<&Record::ImportStudentsFile>("ImportStudentsFile", "", "path of the student data file")}),
+         Quoted({Number<&Record::ImportFieldLast>("ImportFieldLast", 0, "highest index in use of the field names",
+                                                  LastImportField)}),
+         Quoted({Text<&Record::ImportFields>("ImportFields", "", "field names in column order; 0 is the date code")},
+                LineRepeat::ImportFields)}};
 }
 
 SettingsSection RuleSection() {
@@ -112,8 +114,9 @@ const std::vector<SettingsSection>& FixedSections() {
 const std::vector<SettingsSection>& CountedSections() {
     static const std::vector<SettingsSection> sections = {
         BarCodeSection(),
-        OneValue("[Path to Word Processor]", LineForm::Plain,
-                 Quoted({Text<&Record::PathToWordProcessor>("PathToWordProcessor", "", "program that edits documents")})),
+        OneValue(
+            "[Path to Word Processor]", LineForm::Plain,
+            Quoted({Text<&Record::PathToWordProcessor>("PathToWordProcessor", "", "program that edits documents")})),
         OneValue("[Path to Admin]", LineForm::Plain,
                  Quoted({Text<&Record::PathToAdmin>("PathToAdmin", "", "folder of Admin Edition files")}),
                  "[Path to Carnelle Admin]"),

@@ -74,6 +74,12 @@ void frmMaster_SU::BuildLayout() {
     rows->addWidget(fraAdmin, 3);
     rows->addWidget(fraTransfer, 3);
     rows->addLayout(bottom);
+    QWidget* before = fraGeneral->imgLocked;
+    for (QWidget* next : std::initializer_list<QWidget*>{fraGeneral->imgUnlocked, fraGeneral->cmdGeneral, cmdImport,
+                                                         cmdAdmin, cmdTransfer, cmdManual, cmdExit}) {
+        setTabOrder(before, next);
+        before = next;
+    }
 }
 
 void frmMaster_SU::ConnectControls() {
@@ -142,8 +148,8 @@ bool frmMaster_SU::ScreenIsLargeEnough() {
     const QString text = QStringLiteral("This version of ") + ProductName +
                          QStringLiteral(" Setup requires a screen resolution of at least 800 x 600. Please adjust "
                                         "your screen settings.\n\nClick [Cancel] to use your current settings anyway.");
-    const MessageAnswer answer = TheDesktop().ShowMessage({QStringLiteral("ADJUST SCREEN RESOLUTION"), text,
-                                                           MessageButtons::OkCancel, MessageIcon::Critical});
+    const MessageAnswer answer = TheDesktop().ShowMessage(
+        {QStringLiteral("ADJUST SCREEN RESOLUTION"), text, MessageButtons::OkCancel, MessageIcon::Critical});
     MsgAnswer = static_cast<std::int16_t>(answer);
     return answer == MessageAnswer::Cancel;
 }

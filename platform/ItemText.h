@@ -22,7 +22,8 @@ struct ItemError {
 };
 
 /// A decimal number within 16 bits: blanks around it are ignored, one sign is allowed, nothing else.
-/// Reports number 13 for anything that is no such number and 6 for one that does not fit; `value` changes only on success.
+/// Reports number 13 for anything that is no such number and 6 for one that does not fit; `value` changes only on
+/// success.
 SystemError ParseNumber(const QString& text, std::int16_t& value);
 
 /// Reads a file item by item, plain and quoted lines alike: an item ends at a comma or at the end of a line

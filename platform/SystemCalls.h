@@ -16,9 +16,9 @@ public:
         bool IsRegularFile = false;
         bool IsSymbolicLink = false;
         std::int64_t Size = 0;
-        unsigned Mode = 0;   ///< permission bits
-        unsigned Owner = 0;  ///< user number; 0 on Windows
-        unsigned Group = 0;  ///< group number; 0 on Windows
+        unsigned Mode = 0;  ///< permission bits
+        unsigned Owner = 0; ///< user number; 0 on Windows
+        unsigned Group = 0; ///< group number; 0 on Windows
     };
 
     virtual ~SystemCalls() = default;

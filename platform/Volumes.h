@@ -40,7 +40,8 @@ public:
     virtual FolderResult ListFolders(const QString& path) const = 0;
 
     /// A path made whole: a drive alone ("c:") stands for the drive's current folder, a root keeps its backslash
-    /// (`c:\`), any other folder loses a trailing one, and a forward slash separates like a backslash. Blanks at both ends are dropped; a blank path is empty.
+    /// (`c:\`), any other folder loses a trailing one, and a forward slash separates like a backslash. Blanks at both
+    /// ends are dropped; a blank path is empty.
     QString WholePath(const QString& path) const;
 
     /// The folder last chosen on the path's drive becomes what the drive alone stands for.

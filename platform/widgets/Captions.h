@@ -15,7 +15,8 @@ struct Caption {
 enum class CaptionLanguage { English, French };
 
 /// Gives each named control of the window its caption: text of labels and buttons, title of group boxes.
-/// Placeholders in the texts are not replaced. A control that the window lacks is a mistake of the table: debug builds stop.
+/// Placeholders in the texts are not replaced. A control that the window lacks is a mistake of the table: debug builds
+/// stop.
 void ApplyCaptions(QWidget& window, std::span<const Caption> table, CaptionLanguage language);
 
 /// Sets one caption the same way.

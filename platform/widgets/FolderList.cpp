@@ -19,7 +19,8 @@ Volumes& TheVolumes() {
 // The root and every folder on the way to `folder`, itself included: c:\, c:\marks, c:\marks\2016.
 QStringList PathsFromRoot(const QString& folder) {
     QStringList paths{folder.left(2) + QLatin1Char('\\')};
-    for (qsizetype end = folder.indexOf(QLatin1Char('\\'), 3); end > 0; end = folder.indexOf(QLatin1Char('\\'), end + 1)) {
+    for (qsizetype end = folder.indexOf(QLatin1Char('\\'), 3); end > 0;
+         end = folder.indexOf(QLatin1Char('\\'), end + 1)) {
         paths.append(folder.left(end));
     }
     if (folder.size() > 3) {

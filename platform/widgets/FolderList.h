@@ -5,8 +5,8 @@
 #include <QStyle>
 #include <QTreeWidget>
 
-/// A list of folders: the current folder's drive root and parents, the current folder (bold), and the folders in it, each
-/// level indented. A double click or Enter on an entry makes it the current folder.
+/// A list of folders: the current folder's drive root and parents, the current folder (bold), and the folders in it,
+/// each level indented. A double click or Enter on an entry makes it the current folder.
 class FolderList : public QTreeWidget {
     Q_OBJECT
     Q_PROPERTY(QString path READ Path WRITE SetPathAsUser NOTIFY Changed)

@@ -41,11 +41,11 @@ protected:
 
 private:
     LostFocusRule lostFocusRule;
-    bool entered = false;          // the rule has not run since the box got the focus
+    bool entered = false; // the rule has not run since the box got the focus
     bool runningRule = false;
-    bool away = false;             // the focus went to a menu, a message box or another program
+    bool away = false; // the focus went to a menu, a message box or another program
     bool refusedPress = false;
-    bool selectOnRelease = false;  // a click that brought the focus selects the text
+    bool selectOnRelease = false; // a click that brought the focus selects the text
 
     void KeepToCodePage();
 };

@@ -83,7 +83,8 @@ TEST_F(ConfigFiles, TheNameIsFoundInAnyCase) {
     EXPECT_EQ(ProgramConfig, EveryField());
     ProgramConfig.DateFormat = 1;
     SaveProgramConfig();
-    EXPECT_EQ(Disk.Names(ProgramFolder), QStringList({QStringLiteral("GW_v11_PRG.CFG"), QStringLiteral("gw_V12_prg.cfg")}));
+    EXPECT_EQ(Disk.Names(ProgramFolder),
+              QStringList({QStringLiteral("GW_v11_PRG.CFG"), QStringLiteral("gw_V12_prg.cfg")}));
 }
 
 TEST_F(ConfigFiles, SaveWritesBothFilesAndDeletesThePathFile) {
@@ -93,7 +94,8 @@ TEST_F(ConfigFiles, SaveWritesBothFilesAndDeletesThePathFile) {
     SaveProgramConfig();
     EXPECT_EQ(Disk.Read(Older), EveryFieldFile);
     EXPECT_EQ(Disk.Read(Newer), EveryFieldFile);
-    EXPECT_EQ(Disk.Names(ProgramFolder), QStringList({QStringLiteral("GW_v11_PRG.CFG"), QStringLiteral("GW_v12_PRG.CFG")}));
+    EXPECT_EQ(Disk.Names(ProgramFolder),
+              QStringList({QStringLiteral("GW_v11_PRG.CFG"), QStringLiteral("GW_v12_PRG.CFG")}));
     SaveProgramConfig();
     EXPECT_EQ(Disk.Read(Newer), EveryFieldFile);
     EXPECT_EQ(ProgramConfig, EveryField()) << "saving changes no setting";

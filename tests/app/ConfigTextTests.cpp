@@ -88,17 +88,18 @@ struct LockLine {
 };
 
 TEST_F(ConfigText, LockLine) {
-    for (const auto& [line, lock] : {LockLine{"Program Config Lock=ON", 1}, LockLine{"Program Config Lock=on", 1},
-                                     LockLine{"Program Config Lock=On", 1}, LockLine{"ON", 1}, LockLine{"", 1},
-                                     LockLine{"N", 1}, LockLine{"\"\"", 1}, LockLine{"Program Config Lock=OFF", 0},
-                                     LockLine{"Program Config Lock=NO", 0}, LockLine{"xx", 0},
-                                     LockLine{"\"Program Config Lock=ON\"", 1}}) {
+    for (const auto& [line, lock] :
+         {LockLine{"Program Config Lock=ON", 1}, LockLine{"Program Config Lock=on", 1},
+          LockLine{"Program Config Lock=On", 1}, LockLine{"ON", 1}, LockLine{"", 1}, LockLine{"N", 1},
+          LockLine{"\"\"", 1}, LockLine{"Program Config Lock=OFF", 0}, LockLine{"Program Config Lock=NO", 0},
+          LockLine{"xx", 0}, LockLine{"\"Program Config Lock=ON\"", 1}}) {
         EXPECT_EQ(Read(With("Program Config Lock=OFF", line)).ConfigLock, lock) << line;
     }
 }
 
 TEST_F(ConfigText, StoredStartMonthNeverSurvives) {
-    EXPECT_EQ(Read(With("[School Year Start Month]\r\n 1 ", "[School Year Start Month]\r\n 9 ")).SchoolYearStartMonth, 1);
+    EXPECT_EQ(Read(With("[School Year Start Month]\r\n 1 ", "[School Year Start Month]\r\n 9 ")).SchoolYearStartMonth,
+              1);
 }
 
 // A file of an earlier version: its first sections, the rest at their defaults.
@@ -133,9 +134,10 @@ TEST_F(ConfigText, OddSectionCounts) {
         int error;
         bool readsSections;
     };
-    for (const auto& [count, number, reads] : {Case{"15", 0, true}, Case{"32767", 0, true}, Case{"-1", 0, false},
-                                               Case{"\"14\"", 0, true}, Case{"32768", 6, false}, Case{"many", 13, false},
-                                               Case{"", 13, false}, Case{"1.5", 13, false}, Case{"-32769", 6, false}}) {
+    for (const auto& [count, number, reads] :
+         {Case{"15", 0, true}, Case{"32767", 0, true}, Case{"-1", 0, false}, Case{"\"14\"", 0, true},
+          Case{"32768", 6, false}, Case{"many", 13, false}, Case{"", 13, false}, Case{"1.5", 13, false},
+          Case{"-32769", 6, false}}) {
         ItemError error;
         const ProgramConfigRecord config = Read(With("\r\n 14 \r\n", QByteArray("\r\n") + count + "\r\n"), &error);
         EXPECT_EQ(error.Error.Number, number) << count;
@@ -192,17 +194,18 @@ TEST_F(ConfigText, AllTwentyFiveFieldsFit) {
 TEST_F(ConfigText, NumbersThatDoNotParseEndTheRead) {
     ProgramConfigRecord marked = EveryField();
     int numberFields = 0;
-    ForEachValue(marked, [](const char*, QString&) {}, [&](const char*, std::int16_t&) { ++numberFields; });
+    ForEachValue(
+        marked, [](const char*, QString&) {}, [&](const char*, std::int16_t&) { ++numberFields; });
     EXPECT_EQ(numberFields, 20);
     struct Case {
         const char* text;
         int error;
     };
-    for (const auto& [text, number] : {Case{"text", 13}, Case{"\"\"", 13}, Case{"-", 13}, Case{"+", 13}, Case{"2.0", 13},
-                                       Case{"32768", 6}, Case{"-32769", 6}, Case{"99999999999999999999", 6},
-                                       Case{"1e3", 13}, Case{"&H10", 13}, Case{"5 5", 13}}) {
-        for (const char* line : {"[School Year Start Month]\r\n 1 ", "[Bar Code Attendance]\r\n 1 ", "\"Barres 39\"\r\n 2 ",
-                                 "[Date Format]\r\n 6 ", "[Printer Dialog Box]\r\n 1 "}) {
+    for (const auto& [text, number] :
+         {Case{"text", 13}, Case{"\"\"", 13}, Case{"-", 13}, Case{"+", 13}, Case{"2.0", 13}, Case{"32768", 6},
+          Case{"-32769", 6}, Case{"99999999999999999999", 6}, Case{"1e3", 13}, Case{"&H10", 13}, Case{"5 5", 13}}) {
+        for (const char* line : {"[School Year Start Month]\r\n 1 ", "[Bar Code Attendance]\r\n 1 ",
+                                 "\"Barres 39\"\r\n 2 ", "[Date Format]\r\n 6 ", "[Printer Dialog Box]\r\n 1 "}) {
             const QByteArray title = QByteArray(line).left(QByteArray(line).indexOf('\n') + 1);
             ItemError error;
             const ProgramConfigRecord config = Read(With(line, title + text), &error);
@@ -277,12 +280,14 @@ TEST_F(ConfigText, CutAfterEveryByte) {
     ProgramConfigRecord whole = EveryField();
     QList<QString> texts;
     QList<std::int16_t> numbers;
-    ForEachValue(whole, [&](const char*, QString& value) { texts.append(value); },
-                 [&](const char*, std::int16_t& value) { numbers.append(value); });
+    ForEachValue(
+        whole, [&](const char*, QString& value) { texts.append(value); },
+        [&](const char*, std::int16_t& value) { numbers.append(value); });
     QList<QString> defaultTexts;
     QList<std::int16_t> defaultNumbers;
-    ForEachValue(Defaults, [&](const char*, QString& value) { defaultTexts.append(value); },
-                 [&](const char*, std::int16_t& value) { defaultNumbers.append(value); });
+    ForEachValue(
+        Defaults, [&](const char*, QString& value) { defaultTexts.append(value); },
+        [&](const char*, std::int16_t& value) { defaultNumbers.append(value); });
     for (qsizetype size = 0; size < File.size(); ++size) {
         ItemError error;
         ProgramConfigRecord config = Read(File.left(size), &error);

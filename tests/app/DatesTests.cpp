@@ -62,13 +62,17 @@ TEST_F(Dates, NoPeriodAfterMay) {
 }
 
 TEST_F(Dates, EveryMonthInBothLanguages) {
-    const char* english[] = {"Jan.", "Feb.", "Mar.", "Apr.", "May", "Jun.", "Jul.", "Aug.", "Sep.", "Oct.", "Nov.", "Dec."};
-    const char* french[] = {"jan.", "fév.", "mar.", "avr.", "mai", "jui.", "jui.", "aôu.", "sep.", "oct.", "nov.", "déc."};
+    const char* english[] = {"Jan.", "Feb.", "Mar.", "Apr.", "May",  "Jun.",
+                             "Jul.", "Aug.", "Sep.", "Oct.", "Nov.", "Dec."};
+    const char* french[] = {"jan.", "fév.", "mar.", "avr.", "mai",  "jui.",
+                            "jui.", "aôu.", "sep.", "oct.", "nov.", "déc."};
     for (int month = 1; month <= 12; ++month) {
         Use(Edition::English);
-        EXPECT_EQ(Today(6, QDate(2016, month, 1)), QStringLiteral("1 %1 2016").arg(QString::fromUtf8(english[month - 1])));
+        EXPECT_EQ(Today(6, QDate(2016, month, 1)),
+                  QStringLiteral("1 %1 2016").arg(QString::fromUtf8(english[month - 1])));
         Use(Edition::French);
-        EXPECT_EQ(Today(6, QDate(2016, month, 1)), QStringLiteral("1 %1 2016").arg(QString::fromUtf8(french[month - 1])));
+        EXPECT_EQ(Today(6, QDate(2016, month, 1)),
+                  QStringLiteral("1 %1 2016").arg(QString::fromUtf8(french[month - 1])));
     }
 }
 
@@ -100,10 +104,10 @@ struct DayText {
 };
 
 TEST_F(Dates, WeekdayTexts) {
-    for (const auto& [text, weekday] :
-         {DayText{"MON", 1}, DayText{"tue", 2}, DayText{"Wed", 3}, DayText{"THU", 4}, DayText{"FRI", 5}, DayText{"LUN", 1},
-          DayText{"mar", 2}, DayText{"MER", 3}, DayText{"JEU", 4}, DayText{"VEN", 5}, DayText{"SAT", 0}, DayText{"SUN", 0},
-          DayText{"DIM", 0}, DayText{"xyz", 0}, DayText{"N", 2}, DayText{"I", 6}}) {
+    for (const auto& [text, weekday] : {DayText{"MON", 1}, DayText{"tue", 2}, DayText{"Wed", 3}, DayText{"THU", 4},
+                                        DayText{"FRI", 5}, DayText{"LUN", 1}, DayText{"mar", 2}, DayText{"MER", 3},
+                                        DayText{"JEU", 4}, DayText{"VEN", 5}, DayText{"SAT", 0}, DayText{"SUN", 0},
+                                        DayText{"DIM", 0}, DayText{"xyz", 0}, DayText{"N", 2}, DayText{"I", 6}}) {
         Use(Edition::English);
         MsgAnswer = 7;
         ParseDayMonth(QString::fromUtf8(text), QString());
@@ -122,11 +126,11 @@ struct MonthText {
 
 TEST_F(Dates, MonthTexts) {
     for (const auto& [text, month] :
-         {MonthText{"JAN", 1}, MonthText{"feb", 2}, MonthText{"Mar", 3}, MonthText{"APR", 4}, MonthText{"MAY", 5},
-          MonthText{"JUN", 6}, MonthText{"JUL", 7}, MonthText{"AUG", 8}, MonthText{"SEP", 9}, MonthText{"OCT", 10},
-          MonthText{"NOV", 11}, MonthText{"DEC", 12}, MonthText{"fév", 2}, MonthText{"FÉV", 2}, MonthText{"avr", 4},
-          MonthText{"JUI", 6}, MonthText{"jui", 6}, MonthText{"aôu", 8}, MonthText{"déc", 12}, MonthText{"MAI", 0},
-          MonthText{"xyz", 0}, MonthText{"C", 10}, MonthText{"B", 3}}) {
+         {MonthText{"JAN", 1},  MonthText{"feb", 2},  MonthText{"Mar", 3}, MonthText{"APR", 4},  MonthText{"MAY", 5},
+          MonthText{"JUN", 6},  MonthText{"JUL", 7},  MonthText{"AUG", 8}, MonthText{"SEP", 9},  MonthText{"OCT", 10},
+          MonthText{"NOV", 11}, MonthText{"DEC", 12}, MonthText{"fév", 2}, MonthText{"FÉV", 2},  MonthText{"avr", 4},
+          MonthText{"JUI", 6},  MonthText{"jui", 6},  MonthText{"aôu", 8}, MonthText{"déc", 12}, MonthText{"MAI", 0},
+          MonthText{"xyz", 0},  MonthText{"C", 10},   MonthText{"B", 3}}) {
         Use(Edition::English);
         MsgAnswer = 3;
         ParseDayMonth(QString(), QString::fromUtf8(text));
@@ -167,13 +171,19 @@ TEST_F(Dates, MenuTextsShowTheTrueWeekday) {
         const char* weekday;
     };
     for (const auto& [edition, day, format, date, weekday] :
-         {Case{Edition::English, "20160307", 1, "2016 03 07", "Mon."}, Case{Edition::English, "20160307", 2, "2016/3/7", "Mon."},
-          Case{Edition::English, "20160308", 3, "3/8/2016", "Tue."}, Case{Edition::English, "20160309", 4, "9/3/2016", "Wed."},
+         {Case{Edition::English, "20160307", 1, "2016 03 07", "Mon."},
+          Case{Edition::English, "20160307", 2, "2016/3/7", "Mon."},
+          Case{Edition::English, "20160308", 3, "3/8/2016", "Tue."},
+          Case{Edition::English, "20160309", 4, "9/3/2016", "Wed."},
           Case{Edition::English, "20160310", 5, "Mar. 10, 2016", "Thu."},
-          Case{Edition::English, "20160506", 6, "6 May 2016", "Fri."}, Case{Edition::English, "20160312", 1, "2016 03 12", "Sat."},
-          Case{Edition::English, "20160313", 1, "2016 03 13", "Sun."}, Case{Edition::French, "20160307", 1, "2016 03 07", "lun."},
-          Case{Edition::French, "20160307", 2, "2016/3/7", "lun."}, Case{Edition::French, "20160308", 3, "3/8/2016", "mar."},
-          Case{Edition::French, "20160809", 4, "9/8/2016", "mar."}, Case{Edition::French, "20160810", 5, "aôu. 10, 2016", "mer."},
+          Case{Edition::English, "20160506", 6, "6 May 2016", "Fri."},
+          Case{Edition::English, "20160312", 1, "2016 03 12", "Sat."},
+          Case{Edition::English, "20160313", 1, "2016 03 13", "Sun."},
+          Case{Edition::French, "20160307", 1, "2016 03 07", "lun."},
+          Case{Edition::French, "20160307", 2, "2016/3/7", "lun."},
+          Case{Edition::French, "20160308", 3, "3/8/2016", "mar."},
+          Case{Edition::French, "20160809", 4, "9/8/2016", "mar."},
+          Case{Edition::French, "20160810", 5, "aôu. 10, 2016", "mer."},
           Case{Edition::French, "20161211", 6, "11 déc. 2016", "dim."},
           Case{Edition::English, "20160307", 0, "2016 03 07", "Mon."},
           Case{Edition::English, "20160307", 7, "2016 03 07", "Mon."},

@@ -22,12 +22,11 @@ void ForEachValue(ProgramConfigRecord& config, const std::function<void(const ch
                 for (const SettingsField& field : line.Fields) {
                     for (std::int16_t i = 0; i <= HighestIndex(line.Repeat); ++i) {
                         const auto index = static_cast<std::size_t>(i);
-                        std::visit(Overloaded{[&](const TextField& kind) { text(field.Name, kind.Value(config, index)); },
-                                              [&](const NumberField& kind) {
-                                                  number(field.Name, kind.Value(config, index));
-                                              },
-                                              [](const auto&) {}},
-                                   field.Kind);
+                        std::visit(
+                            Overloaded{[&](const TextField& kind) { text(field.Name, kind.Value(config, index)); },
+                                       [&](const NumberField& kind) { number(field.Name, kind.Value(config, index)); },
+                                       [](const auto&) {}},
+                            field.Kind);
                     }
                 }
             }

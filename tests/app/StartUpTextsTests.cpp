@@ -87,12 +87,13 @@ TEST_F(PrinterFont, WithoutAPrinterOneMessageTellsIt) {
     EXPECT_EQ(Disk.Screen.Messages[0].Title, QStringLiteral("PRINTER FONT ERROR"));
     EXPECT_EQ(Disk.Screen.Messages[0].Icon, MessageIcon::Critical);
     EXPECT_EQ(Disk.Screen.Messages[0].Buttons, MessageButtons::Ok);
-    EXPECT_EQ(Disk.Screen.Messages[0].Text,
-              QStringLiteral("The following printer font(s) is not available on this computer: \n"
-                             " -> [Gone Sans] used on all Gradewell printed forms.\n\n\n"
-                             "ARIAL has been substituted. If Arial is not on this system, printing errors will occur.\n\n"
-                             "Note: This message may be appearing because this computer does not have a printer "
-                             "installed or there is a problem with your printer driver.\n"));
+    EXPECT_EQ(
+        Disk.Screen.Messages[0].Text,
+        QStringLiteral("The following printer font(s) is not available on this computer: \n"
+                       " -> [Gone Sans] used on all Gradewell printed forms.\n\n\n"
+                       "ARIAL has been substituted. If Arial is not on this system, printing errors will occur.\n\n"
+                       "Note: This message may be appearing because this computer does not have a printer "
+                       "installed or there is a problem with your printer driver.\n"));
     EXPECT_EQ(ProgramConfig.PrinterFontName, QStringLiteral("Arial"));
 }
 
@@ -103,13 +104,14 @@ TEST_F(PrinterFont, FrenchMessage) {
     CheckPrinterFont();
     ASSERT_EQ(Disk.Screen.Messages.size(), 1U);
     EXPECT_EQ(Disk.Screen.Messages[0].Title, QStringLiteral("Erreur de police d'imprimante"));
-    EXPECT_EQ(Disk.Screen.Messages[0].Text,
-              QString::fromUtf8("Les polices d'imprimante suivates ne sont pas disponible sur cet ordinateur: \n"
-                                " -> [Arial] est la police utilisée sur toutes les formes imprimées de Carnelle.\n\n\n"
-                                "ARIAL vient d'être substitué. Si la police Arial ne se trouve pas sur ce système, il y "
-                                "aura des erreurs d'impression.\n\n"
-                                "Notez: Il se peut que ce message apparaisse parce que cet ordinateur manque "
-                                "l'installation d'une imprimante ou il y a un problème avec le pilote d'imprimante.\n"));
+    EXPECT_EQ(
+        Disk.Screen.Messages[0].Text,
+        QString::fromUtf8("Les polices d'imprimante suivates ne sont pas disponible sur cet ordinateur: \n"
+                          " -> [Arial] est la police utilisée sur toutes les formes imprimées de Carnelle.\n\n\n"
+                          "ARIAL vient d'être substitué. Si la police Arial ne se trouve pas sur ce système, il y "
+                          "aura des erreurs d'impression.\n\n"
+                          "Notez: Il se peut que ce message apparaisse parce que cet ordinateur manque "
+                          "l'installation d'une imprimante ou il y a un problème avec le pilote d'imprimante.\n"));
 }
 
 } // namespace

@@ -143,7 +143,7 @@ TEST(MappedVolumes, TellsWhyAPathLeadsNowhere) {
     } cases[] = {
         {"d:\\x", 68},       {"d:", 68},        {"", 52},     {"   ", 52},     {"x.cfg", 52},
         {"\\x.cfg", 52},     {"\\\\pc\\s", 52}, {"1:\\", 52}, {"c:\\a/b", 76}, {"c:\\gone\\x", 76},
-        {"c:\\file\\x", 76}, {"c:\\x", 0},      {"c:/x", 0}, {"c:\\file", 0}, {"c:\\gone\\a\\b", 76},
+        {"c:\\file\\x", 76}, {"c:\\x", 0},      {"c:/x", 0},  {"c:\\file", 0}, {"c:\\gone\\a\\b", 76},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(folder.Drives.ToNative(Text(row.Path)).Error.Number, row.Number) << row.Path;

@@ -9,7 +9,8 @@
 #include <vector>
 
 /// The desktop of the tests: records what was asked and gives the next answer. A message or dialog that no answer was
-/// queued for fails the test, and so does an answer that nobody asked for. It installs itself and its predecessor again.
+/// queued for fails the test, and so does an answer that nobody asked for. It installs itself and its predecessor
+/// again.
 class ScriptedDesktop : public Desktop {
 public:
     /// `volumes` and `calls` stay the caller's.

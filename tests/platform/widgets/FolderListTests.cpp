@@ -12,7 +12,8 @@ QString Path(const char* text) {
 class Folders : public testing::Test {
 protected:
     Folders() {
-        for (const char* folder : {"c:\\marks\\2016\\term1", "c:\\marks\\2016\\Term2", "c:\\marks\\2015", "c:\\other"}) {
+        for (const char* folder :
+             {"c:\\marks\\2016\\term1", "c:\\marks\\2016\\Term2", "c:\\marks\\2015", "c:\\other"}) {
             Disk.MakeFolder(Path(folder));
         }
         List = std::make_unique<FolderList>();
@@ -45,8 +46,8 @@ protected:
 
 TEST_F(Folders, TheCurrentFolderIsShownWithItsParents) {
     EXPECT_FALSE(List->SetPath(Path("c:\\marks\\2016")));
-    EXPECT_EQ(Entries(), QStringList({Path("c:\\"), Path("  marks"), Path("    2016"), Path("      term1"),
-                                      Path("      Term2")}));
+    EXPECT_EQ(Entries(),
+              QStringList({Path("c:\\"), Path("  marks"), Path("    2016"), Path("      term1"), Path("      Term2")}));
     EXPECT_EQ(List->currentItem()->text(0), QStringLiteral("2016"));
     EXPECT_TRUE(List->currentItem()->font(0).bold());
     EXPECT_EQ(List->Path(), Path("c:\\marks\\2016"));

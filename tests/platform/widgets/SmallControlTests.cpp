@@ -11,8 +11,10 @@
 namespace {
 
 TEST(Captions, EachKindOfControlTakesItsText) {
-    constexpr Caption table[] = {{"label", "Drive:", "Lecture : "}, {"button", "&Save", "&Enregistrer"},
-                                 {"frame", "Frame", "Cadre"}, {"tick", "&Tick", "&Cocher"}};
+    constexpr Caption table[] = {{"label", "Drive:", "Lecture : "},
+                                 {"button", "&Save", "&Enregistrer"},
+                                 {"frame", "Frame", "Cadre"},
+                                 {"tick", "&Tick", "&Cocher"}};
     QWidget window;
     QLabel label(&window);
     QPushButton button(&window);
@@ -80,8 +82,8 @@ TEST(DropDownLists, TheWheelActsOnlyWithTheFocus) {
     ShowActive(window);
     other.setFocus();
     const auto turn = [&] {
-        QWheelEvent event(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
-                          false);
+        QWheelEvent event(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
         QApplication::sendEvent(&list, &event);
     };
     turn();
@@ -93,7 +95,8 @@ TEST(DropDownLists, TheWheelActsOnlyWithTheFocus) {
 
 TEST(DialogFilters, AsQtTakesThem) {
     EXPECT_EQ(QtFilters(QStringLiteral("All Files (*.*)|*.*")), QStringList({QStringLiteral("All Files (*)")}));
-    EXPECT_EQ(QtFilters(QStringLiteral("Schemes (*.scm)|*.scm")), QStringList({QStringLiteral("Schemes (*.[sS][cC][mM])")}));
+    EXPECT_EQ(QtFilters(QStringLiteral("Schemes (*.scm)|*.scm")),
+              QStringList({QStringLiteral("Schemes (*.[sS][cC][mM])")}));
     EXPECT_EQ(QtFilters(QStringLiteral("JPeg (*.jpg)|*.jpg|Bit Map (*.bmp)|*.bmp")),
               QStringList({QStringLiteral("JPeg (*.[jJ][pP][gG])"), QStringLiteral("Bit Map (*.[bB][mM][pP])")}));
     EXPECT_EQ(QtFilters(QString()), QStringList());
@@ -130,12 +133,14 @@ TEST(HelperPrograms, ThePathIsOneArgumentOfItsOwn) {
 
 TEST(HelperPrograms, NothingWhereTheMachineHasNothing) {
     const QString file = QStringLiteral("/srv/x.txt");
-    EXPECT_EQ(CommandFor(HelperProgram::FileViewer, file, Machine({QStringLiteral("x-terminal-emulator")}, "vi", true)).Program,
+    EXPECT_EQ(CommandFor(HelperProgram::FileViewer, file, Machine({QStringLiteral("x-terminal-emulator")}, "vi", true))
+                  .Program,
               QString());
     EXPECT_EQ(CommandFor(HelperProgram::TextEditor, file, Machine({QStringLiteral("xdg-open")}, "vi", false)).Program,
               QString());
-    EXPECT_EQ(CommandFor(HelperProgram::TextEditor, file, Machine({QStringLiteral("x-terminal-emulator")}, "", true)).Program,
-              QString());
+    EXPECT_EQ(
+        CommandFor(HelperProgram::TextEditor, file, Machine({QStringLiteral("x-terminal-emulator")}, "", true)).Program,
+        QString());
 }
 #endif
 

@@ -10,7 +10,8 @@ class TextBoxes : public testing::Test {
 protected:
     TextBoxes() {
         auto* column = new QVBoxLayout(&Window);
-        for (QWidget* widget : std::initializer_list<QWidget*>{&First, &Second, &Save, &Tick, &Lock, &Label, &Passive}) {
+        for (QWidget* widget :
+             std::initializer_list<QWidget*>{&First, &Second, &Save, &Tick, &Lock, &Label, &Passive}) {
             column->addWidget(widget);
         }
         First.SetLostFocusRule([this] {
