@@ -23,7 +23,7 @@ if(GRADEWELL_COVERAGE)
 endif()
 
 # One precompiled header a layer: parsing Qt's headers is most of a compilation's time.
-file(WRITE "${PROJECT_BINARY_DIR}/precompiled/Empty.cpp" "")
+file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/precompiled/Empty.cpp" CONTENT "") # keeps its time
 function(gradewell_precompiled name)
     cmake_parse_arguments(arg "" "" "HEADERS;LINK" ${ARGN})
     add_library(${name} OBJECT "${PROJECT_BINARY_DIR}/precompiled/Empty.cpp")

@@ -159,7 +159,7 @@ SystemError ReplaceTarget(SystemCalls& calls, OpenFile& open, const NativePath& 
 } // namespace
 
 SystemError SafeSave(SystemCalls& calls, const NativePath& path, const QByteArray& bytes) {
-    Target target{path, false, {}};
+    Target target{path.has_parent_path() ? path : "." / path, false, {}};
     if (const SystemError error = FindTarget(calls, target)) {
         return error;
     }

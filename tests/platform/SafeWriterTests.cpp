@@ -89,6 +89,17 @@ TEST(SafeWriter, ReportsWhatStandsInTheWay) {
     EXPECT_EQ(folder.Names(QStringLiteral("c:\\")), before);
 }
 
+TEST(SafeWriter, SavesANameInTheWorkingFolder) {
+    TestFolder folder;
+    const NativePath before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Native(QStringLiteral("c:\\")));
+    EXPECT_FALSE(SafeSave(RealSystemCalls(), "x.cfg", "new"));
+    EXPECT_FALSE(SafeSave(RealSystemCalls(), "x.cfg", "newer"));
+    std::filesystem::current_path(before);
+    EXPECT_EQ(folder.Read(Target), "newer");
+    EXPECT_EQ(folder.Names(QStringLiteral("c:\\")), QStringList{QStringLiteral("x.cfg")});
+}
+
 TEST(SafeWriter, SavesANameThatIsNearlyTooLong) {
     TestFolder folder;
     const QString path = QStringLiteral("c:\\") + QString(250, u'n');

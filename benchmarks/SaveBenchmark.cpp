@@ -1,0 +1,83 @@
+/// Compares the save of both configuration files with the bare system calls that a safe save of two files needs:
+/// benchmark_save FOLDER. The folder holds both files. Ends with 1 when the limit is passed.
+
+#include "app/CFG_2015.h"
+#include "benchmarks/Measuring.h"
+#include "platform/ProgramDrives.h"
+#include "platform/qt/QtDesktop.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr double MostTime = 1.5;
+constexpr double NanosecondsInMillisecond = 1e6;
+constexpr unsigned UsualMode = 0644;
+
+/// A call that must not fail here: its result.
+template <typename Result>
+Result Sure(Result result) {
+    if (result < 0) {
+        std::fprintf(stderr, "A system call failed with %d\n", int(-result));
+        std::exit(1);
+    }
+    return result;
+}
+
+/// New file beside the target, write, sync, mode, close, read back, move over the target, sync the folder.
+void SaveBare(SystemCalls& calls, const NativePath& target, const QByteArray& bytes) {
+    const NativePath temporary = target.parent_path() / "bare.tmp";
+    int handle = Sure(calls.CreateExclusive(temporary, UsualMode));
+    Sure(calls.Write(handle, bytes.constData(), bytes.size()));
+    Sure(calls.SetMode(handle, UsualMode));
+    Sure(calls.Sync(handle));
+    Sure(calls.Close(handle));
+    QByteArray written(bytes.size() + 1, '\0');
+    handle = Sure(calls.OpenForReading(temporary));
+    Sure(calls.Read(handle, written.data(), written.size()));
+    Sure(calls.Close(handle));
+    Sure(calls.Replace(temporary, target));
+    Sure(calls.SyncFolder(target.parent_path()));
+}
+
+template <typename Action>
+double Milliseconds(const Action& action) {
+    QElapsedTimer clock;
+    clock.start();
+    action();
+    return static_cast<double>(clock.nsecsElapsed()) / NanosecondsInMillisecond;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QGuiApplication application(argc, argv);
+    SystemCalls& calls = RealSystemCalls();
+    const NativePath folder(argv[1]);
+    ProgramDrives drives = OpenProgramDrives(calls, folder);
+    QtDesktop desktop(std::move(drives.TheVolumes), calls);
+    InstallDesktop(&desktop);
+    SetProductTexts(Edition::English);
+    SetTitleLine(TheDesktop().Now().date().year());
+    ProgramFolder = drives.ProgramFolder;
+    SetDefaultSettings();
+    LocateProgramConfig();
+    const QByteArray bytes = WriteConfigText(ProgramConfig, TitleLine);
+
+    std::vector<double> ours;
+    std::vector<double> bare;
+    for (int round = 0; round < Rounds; ++round) {
+        ours.push_back(Milliseconds([] { SaveProgramConfig(); }));
+        bare.push_back(Milliseconds([&] {
+            SaveBare(calls, folder / "bare11.cfg", bytes);
+            SaveBare(calls, folder / "bare12.cfg", bytes);
+        }));
+    }
+    return ReportRatio(QStringLiteral("Save of both configuration files"), QStringLiteral("ms"), Median(ours),
+                       Median(bare), MostTime)
+               ? 0
+               : 1;
+}
