@@ -410,7 +410,7 @@ TEST(IconWindow, CarriesTheIconInEverySize) {
     const frmCFG_IconOnly window;
     EXPECT_EQ(window.objectName(), QStringLiteral("frmCFG_IconOnly"));
     EXPECT_FALSE(window.isVisible());
-    for (const int size : {16, 32, 48, 256}) {
+    for (const int size : {16, 32, 48, 64}) {
         EXPECT_TRUE(window.windowIcon().availableSizes().contains(QSize(size, size))) << size;
     }
 }
