@@ -35,9 +35,7 @@ void SetupTest::ShowPanel(int panel) {
 }
 
 void SetupTest::Click(const char* button) {
-    auto* pressed = Find<QAbstractButton>(*Window, button);
-    // Options and check boxes act on their mark and text only, which stand at the left.
-    QTest::mouseClick(pressed, Qt::LeftButton, Qt::NoModifier, QPoint(8, pressed->height() / 2));
+    QTest::mouseClick(Find<QAbstractButton>(*Window, button), Qt::LeftButton);
 }
 
 void SetupTest::Type(const QString& box, const QString& text) {
