@@ -63,6 +63,7 @@ void PathsPanel::AddFolderFrames() {
     backups.Column->addWidget(backup);
     for (const Frame& frame : {classes, backups}) {
         frame.Column->setContentsMargins(Spacing::Margin, 0, Spacing::Margin, Spacing::Gap / 2);
+        frame.Box->setFixedHeight(OpeningFrameHeight);
     }
     Column->addWidget(classFrame);
     Column->addSpacing(TextGap - Column->spacing());

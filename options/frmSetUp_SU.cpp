@@ -152,7 +152,9 @@ void frmSetUp_SU::ShowPanel() {
     }
     cmdSetup[shown]->ShowAsCurrent(true);
     p3dSetup[shown]->show();
-    TheDesktop().ProcessPendingEvents();
+    if (isVisible()) { // the load has nothing to paint yet
+        TheDesktop().ProcessPendingEvents();
+    }
 }
 
 bool frmSetUp_SU::AskToSaveScheme() {
