@@ -1,5 +1,6 @@
 #include "options/PanelParts.h"
 
+#include "options/ExplanationLabel.h"
 #include "platform/widgets/ProgramStyle.h"
 
 #include <QLabel>
@@ -29,9 +30,7 @@ QLabel* NewLabel(const char* name, QWidget* parent, QWidget* buddy) {
 }
 
 QLabel* NewExplanation(const char* name, QWidget* parent) {
-    QLabel* label = NewLabel(name, parent);
-    label->setWordWrap(true);
-    return label;
+    return NewControl<ExplanationLabel>(name, parent);
 }
 
 QPushButton* NewButton(const char* name, QWidget* parent) {

@@ -63,6 +63,7 @@ void PathsPanel::AddFolderFrames() {
     backups.Column->addWidget(backup);
     for (const Frame& frame : {classes, backups}) {
         frame.Column->setContentsMargins(Spacing::Margin, 0, Spacing::Margin, Spacing::Gap / 2);
+        frame.Box->setFixedHeight(OpeningFrameHeight);
     }
     Column->addWidget(classFrame);
     Column->addSpacing(TextGap - Column->spacing());
@@ -96,6 +97,11 @@ void PathsPanel::resizeEvent(QResizeEvent* event) {
     for (QGroupBox* frame : {classFrame, backupFrame}) {
         frame->setFixedHeight(std::max(OpeningFrameHeight + more, frame->minimumSizeHint().height()));
     }
+}
+
+void PathsPanel::NameControls() {
+    data->NameControls(classFrame->title().remove(QStringLiteral("... ")));
+    backup->NameControls(backupFrame->title().remove(QStringLiteral("... ")));
 }
 
 void PathsPanel::LoadDataPath() {

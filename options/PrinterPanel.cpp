@@ -38,7 +38,7 @@ PrinterPanel::PrinterPanel(QWidget* parent) : SetupPanel(4, parent) {
 void PrinterPanel::AddDialogFrame() {
     const Frame frame = NewFrame("fraPrinter", this);
     chkHCDialog = NewControl<QCheckBox>("chkHCDialog", frame.Box);
-    frame.Column->addWidget(chkHCDialog);
+    frame.Column->addWidget(chkHCDialog, 0, Qt::AlignLeft);
     frame.Column->addWidget(NewExplanation("lblHCDialog", frame.Box));
     Column->addWidget(frame.Box);
 }
@@ -53,7 +53,7 @@ void PrinterPanel::AddLinesFrame() {
         auto* option = NewControl<QRadioButton>(IndexedName("optThickLine", i), frame.Box);
         option->setText(QString::number(i + ThinnestLine));
         option->setIconSize(SampleSize);
-        grid->addWidget(option, i % LinesInColumn, i / LinesInColumn);
+        grid->addWidget(option, i % LinesInColumn, i / LinesInColumn, Qt::AlignLeft);
         optThickLine.at(static_cast<std::size_t>(i)) = option;
     }
     grid->setColumnStretch(2, 1);

@@ -41,11 +41,11 @@ void SchoolYearPanel::AddFormatFrame() {
     row->setSpacing(2 * Spacing::Margin);
     auto* options = new QVBoxLayout;
     options->setSpacing(Spacing::Gap);
+    options->addStrut(FormatColumnWidth);
     for (int code = FirstDateFormat; code <= LastDateFormat; ++code) {
         QRadioButton*& option = optDFormat.at(static_cast<std::size_t>(code));
         option = NewControl<QRadioButton>(IndexedName("optDFormat", code), frame.Box);
-        option->setMinimumWidth(FormatColumnWidth);
-        options->addWidget(option);
+        options->addWidget(option, 0, Qt::AlignLeft);
     }
     row->addLayout(options);
     QLabel* explanation = NewExplanation("lblDF1", frame.Box);

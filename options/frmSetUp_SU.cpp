@@ -127,6 +127,7 @@ void frmSetUp_SU::SetEditionLanguage(bool french) {
     html->FillOrders();
     setWindowTitle(ProductName + QStringLiteral(" - GENERAL OPTIONS"));
     ApplyCaptions(*this, SetupCaptions(), french ? CaptionLanguage::French : CaptionLanguage::English);
+    paths->NameControls();
     scheme->SetLanguage(french);
     barCodes->NameFields(french);
 }
@@ -151,7 +152,9 @@ void frmSetUp_SU::ShowPanel() {
     }
     cmdSetup[shown]->ShowAsCurrent(true);
     p3dSetup[shown]->show();
-    TheDesktop().ProcessPendingEvents();
+    if (isVisible()) { // the load has nothing to paint yet
+        TheDesktop().ProcessPendingEvents();
+    }
 }
 
 bool frmSetUp_SU::AskToSaveScheme() {
