@@ -84,7 +84,7 @@ ImportGrid::ImportGrid(QWidget* parent) : QTableWidget(0, 3, parent) {
 }
 
 void ImportGrid::SetRows(int count) {
-    MarkRow(NoRow);
+    SetNextRow(NoRow, false);
     clearContents();
     setRowCount(count);
     for (int row = 0; row < count; ++row) {
@@ -107,13 +107,12 @@ void ImportGrid::ShowMatch(int row, const QString& name) {
     item(row, MatchColumn)->setText(name.isEmpty() ? QString() : QStringLiteral(" <-- ") + name);
 }
 
-void ImportGrid::MarkRow(int row) {
-    if (markedRow == row) {
-        return;
-    }
-    markedRow = row;
-    if (row != NoRow) {
-        scrollToItem(item(row, TextColumn));
+void ImportGrid::SetNextRow(int row, bool marked) {
+    const int before = MarkedRow();
+    nextRow = row;
+    isMarked = marked;
+    if (MarkedRow() != NoRow && MarkedRow() != before) {
+        scrollToItem(item(MarkedRow(), TextColumn));
     }
     viewport()->update();
 }
@@ -123,7 +122,7 @@ void ImportGrid::SetText(int row, int column, const QString& text) {
 }
 
 bool ImportGrid::Takes(const QDropEvent& event) const {
-    return event.mimeData()->hasFormat(FieldListPanel::FieldMimeType()) && markedRow != NoRow;
+    return event.mimeData()->hasFormat(FieldListPanel::FieldMimeType()) && nextRow != NoRow;
 }
 
 void ImportGrid::dragEnterEvent(QDragEnterEvent* event) {

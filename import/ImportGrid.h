@@ -26,10 +26,10 @@ public:
     /// Shows " <-- " and a name in a row (from 0); nothing for an empty name.
     void ShowMatch(int row, const QString& name);
 
-    /// Marks the row that the next field goes to and brings it into view; NoRow marks none. Only a grid with a marked
-    /// row takes a drop.
-    void MarkRow(int row);
-    int MarkedRow() const { return markedRow; }
+    /// The row that the next field goes to, NoRow when none is free: only then is a drag refused. A marked row is shown
+    /// as such and brought into view.
+    void SetNextRow(int row, bool marked);
+    int MarkedRow() const { return isMarked ? nextRow : NoRow; }
 
 Q_SIGNALS:
     void FieldDropped();
@@ -40,7 +40,8 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    int markedRow = NoRow;
+    int nextRow = NoRow;
+    bool isMarked = false;
 
     void SetText(int row, int column, const QString& text);
     bool Takes(const QDropEvent& event) const;

@@ -160,7 +160,7 @@ void frmImport_SU::ShowFieldMatches() {
     ShowMatches();
 }
 
-void frmImport_SU::spnRecords_Change(std::int64_t record) {
+void frmImport_SU::GoToRecord(std::int64_t record) {
     ShowImportRecord(std::clamp(record, std::int64_t{1}, recordCount));
 }
 

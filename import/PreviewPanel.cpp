@@ -117,5 +117,5 @@ void PreviewPanel::ShowMatchCount(int matches, int fields) {
 
 void PreviewPanel::MarkNextRow(const FieldMatching& matching) {
     const bool hasNext = matching.MatchCount() < matching.RowCount();
-    grdImport->MarkRow(pnlFieldList->IsAiming() && hasNext ? matching.MatchCount() : ImportGrid::NoRow);
+    grdImport->SetNextRow(hasNext ? matching.MatchCount() : ImportGrid::NoRow, pnlFieldList->IsAiming());
 }

@@ -32,26 +32,33 @@ QToolButton* RecordSpinner::NewArrow(const char* name, Qt::ArrowType arrow, cons
     button->setFocusPolicy(Qt::StrongFocus);
     button->setAccessibleName(accessibleName);
     button->setToolTip(accessibleName);
+    button->installEventFilter(this);
     return button;
 }
 
-void RecordSpinner::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
+// The buttons themselves would move the focus with the arrow keys.
+bool RecordSpinner::eventFilter(QObject* receiver, QEvent* event) {
+    return event->type() == QEvent::KeyPress ? TakesKey(static_cast<QKeyEvent*>(event)->key())
+                                             : QWidget::eventFilter(receiver, event);
+}
+
+bool RecordSpinner::TakesKey(int key) {
+    switch (key) {
     case Qt::Key_Right:
     case Qt::Key_Down:
         Q_EMIT NextClicked();
-        return;
+        return true;
     case Qt::Key_Left:
     case Qt::Key_Up:
         Q_EMIT PreviousClicked();
-        return;
+        return true;
     case Qt::Key_Home:
         Q_EMIT FirstAsked();
-        return;
+        return true;
     case Qt::Key_End:
         Q_EMIT LastAsked();
-        return;
+        return true;
     default:
-        QWidget::keyPressEvent(event);
+        return false;
     }
 }

@@ -19,8 +19,9 @@ Q_SIGNALS:
     void LastAsked();
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
+    bool TakesKey(int key);
     QToolButton* NewArrow(const char* name, Qt::ArrowType arrow, const QString& accessibleName);
 };

@@ -46,7 +46,7 @@ void UpdateOptionsPanel::BuildDelete() {
     lblCLUpd1->setObjectName(QStringLiteral("lblCLUpd1"));
     for (std::size_t i = 0; i < chkCLUpd.size(); ++i) {
         chkCLUpd[i] = NewBox(fraDelete, "chkCLUpd", i, options.Actions[i]);
-        rows->addWidget(chkCLUpd[i]);
+        rows->addWidget(chkCLUpd[i], 0, Qt::AlignLeft);
         if (i == 1) {
             const int indent =
                 style()->pixelMetric(QStyle::PM_IndicatorWidth) + style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing);
@@ -64,7 +64,8 @@ void UpdateOptionsPanel::BuildFields() {
     places->setVerticalSpacing(RowGap);
     for (std::size_t i = 0; i < chkCLUpdFields.size(); ++i) {
         chkCLUpdFields[i] = NewBox(fraUpdateFields, "chkCLUpdFields", i, options.Fields[i]);
-        places->addWidget(chkCLUpdFields[i], static_cast<int>(i) % FieldRows, static_cast<int>(i) / FieldRows);
+        places->addWidget(chkCLUpdFields[i], static_cast<int>(i) % FieldRows, static_cast<int>(i) / FieldRows,
+                          Qt::AlignLeft);
     }
 }
 

@@ -99,10 +99,10 @@ void frmImport_SU::ConnectControls() {
     connect(list, &FieldListPanel::AimChanged, this, [this] { preview->MarkNextRow(matching); });
 
     RecordSpinner* spinner = preview->spnRecords;
-    connect(spinner, &RecordSpinner::NextClicked, this, [this] { spnRecords_Change(currentRecord + 1); });
-    connect(spinner, &RecordSpinner::PreviousClicked, this, [this] { spnRecords_Change(currentRecord - 1); });
-    connect(spinner, &RecordSpinner::FirstAsked, this, [this] { spnRecords_Change(1); });
-    connect(spinner, &RecordSpinner::LastAsked, this, [this] { spnRecords_Change(recordCount); });
+    connect(spinner, &RecordSpinner::NextClicked, this, [this] { GoToRecord(currentRecord + 1); });
+    connect(spinner, &RecordSpinner::PreviousClicked, this, [this] { GoToRecord(currentRecord - 1); });
+    connect(spinner, &RecordSpinner::FirstAsked, this, [this] { GoToRecord(1); });
+    connect(spinner, &RecordSpinner::LastAsked, this, [this] { GoToRecord(recordCount); });
 }
 
 void frmImport_SU::Form_Load() {

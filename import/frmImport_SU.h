@@ -36,6 +36,9 @@ public:
     QPushButton* cmdSave;
     QPushButton* cmdExitImport;
 
+    /// Shows a record, counted from 1; one that the file does not have gives its first or last.
+    void GoToRecord(std::int64_t record);
+
     /// Cancel: stops a reading that goes on, else leaves the window at once.
     void reject() override;
 
@@ -81,7 +84,6 @@ private:
     void ShowRecord(std::int64_t number, const ImportRecord& record);
     void TellReadingFailure(const SystemError& error);
     void ShowFileNotice(ImportFile::Outcome outcome);
-    void spnRecords_Change(std::int64_t record);
     void cmdOpen_Click();
 
     // Matching and saving (MatchAndSave.cpp)

@@ -1,5 +1,5 @@
 #include "import/ImportFile.h"
-#include "tests/import/FaultyCalls.h"
+#include "tests/import/FaultyDisk.h"
 #include "tests/import/Text.h"
 #include "tests/support/TestFolder.h"
 
@@ -12,7 +12,7 @@ using Outcome = ImportFile::Outcome;
 
 class ImportFileTest : public testing::Test {
 protected:
-    FaultyCalls calls;
+    FaultyDisk calls;
     TestFolder folder{calls};
     const QString path = Text("c:\\school\\students.txt");
 

@@ -52,6 +52,11 @@ bool ImportWindowTest::DropOnGrid() {
     QMimeData data;
     data.setData(FieldListPanel::FieldMimeType(), "1");
     QWidget* grid = window->preview->grdImport->viewport();
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(grid, &enter);
+    if (!enter.isAccepted()) {
+        return false;
+    }
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(grid, &drop);
     return drop.isAccepted();

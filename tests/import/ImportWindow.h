@@ -2,7 +2,7 @@
 
 #include "app/CFG_2015.h"
 #include "import/frmImport_SU.h"
-#include "tests/import/FaultyCalls.h"
+#include "tests/import/FaultyDisk.h"
 #include "tests/import/Text.h"
 #include "tests/support/TestFolder.h"
 
@@ -13,7 +13,7 @@
 /// A machine with a program folder and a school's folder, and the import window on it.
 class ImportWindowTest : public testing::Test {
 protected:
-    FaultyCalls calls;
+    FaultyDisk calls;
     TestFolder folder{calls};
     const QString path = Text("c:\\School\\Students.txt");
     const QString setupFile = Text("c:\\School\\UpdField.cfg");

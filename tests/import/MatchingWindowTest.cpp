@@ -50,8 +50,6 @@ TEST_F(MatchingWindowTest, ADropMatchesTheFieldPressedOnce) {
     Press(ImportIf2Field);
     DropOnGrid();
     EXPECT_EQ(List(" <-- Gender| <-- Import If #1| <-- Import If #2"), Column(2));
-    Press(IgnoreField);
-    DropOnGrid();
     EXPECT_EQ(Text("Matched: 3 of 3"), Label("lblMatched"));
 }
 
@@ -60,24 +58,20 @@ TEST_F(MatchingWindowTest, RefusesADropOfAnythingElse) {
     Press(4);
     QMimeData data;
     data.setText(Text("Gender"));
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window->preview->grdImport->viewport(), &drop);
-    EXPECT_FALSE(drop.isAccepted());
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window->preview->grdImport->viewport(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
     EXPECT_EQ(Text("Matched: 0 of 3"), Label("lblMatched"));
 }
 
 TEST_F(MatchingWindowTest, TheGridTakesADragOnlyWhileARowIsFree) {
     OpenWith("a,b");
-    const auto enters = [this] {
-        QMimeData data;
-        data.setData(FieldListPanel::FieldMimeType(), "1");
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(window->preview->grdImport->viewport(), &enter);
-        return enter.isAccepted();
-    };
-    EXPECT_FALSE(enters());
-    window->preview->grdImport->MarkRow(0);
-    EXPECT_TRUE(enters());
+    for (int row = 0; row < 2; ++row) {
+        Press(IgnoreField);
+        EXPECT_TRUE(DropOnGrid()) << row;
+    }
+    Press(IgnoreField);
+    EXPECT_FALSE(DropOnGrid());
 }
 
 TEST_F(MatchingWindowTest, ADisabledFieldNeitherMatchesNorDrags) {

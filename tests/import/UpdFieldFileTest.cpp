@@ -1,5 +1,5 @@
 #include "import/UpdFieldFile.h"
-#include "tests/import/FaultyCalls.h"
+#include "tests/import/FaultyDisk.h"
 #include "tests/import/Text.h"
 #include "tests/support/TestFolder.h"
 
@@ -9,7 +9,7 @@ namespace {
 
 class UpdFieldFileTest : public testing::Test {
 protected:
-    FaultyCalls calls;
+    FaultyDisk calls;
     TestFolder folder{calls};
     const QString importPath = Text("c:\\school\\students.txt");
     const QString setupFile = Text("c:\\school\\UpdField.cfg");

@@ -5,7 +5,7 @@
 #include <cerrno>
 
 /// The system's own calls, except that reading and writing can be made to fail.
-class FaultyCalls : public SystemCalls {
+class FaultyDisk : public SystemCalls {
 public:
     int ReadFailure = 0; ///< errno value of every read from ReadsBeforeFailure on
     int ReadsBeforeFailure = 0;
