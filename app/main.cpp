@@ -1,6 +1,7 @@
 #include "app/BuiltEdition.h"
 #include "app/frmCFG_IconOnly.h"
 #include "app/frmMaster_SU.h"
+#include "import/frmImport_SU.h"
 #include "options/frmSetUp_SU.h"
 #include "platform/ProgramDrives.h"
 #include "platform/Volumes.h"
@@ -30,7 +31,7 @@ int main(int argc, char** argv) {
     for (const QString& complaint : drives.Complaints) {
         ShowNotice(MessageIcon::Exclamation, QStringLiteral("DRIVES.CONF"), complaint);
     }
-    frmMaster_SU menu({.General = Make<frmSetUp_SU>, .Import = {}, .Admin = {}, .Transfer = {}});
+    frmMaster_SU menu({.General = Make<frmSetUp_SU>, .Import = Make<frmImport_SU>, .Admin = {}, .Transfer = {}});
     if (!menu.Form_Load(BuiltEdition, drives.ProgramFolder)) {
         return 0;
     }

@@ -1,0 +1,217 @@
+#include "import/ImportFile.h"
+#include "tests/import/FaultyDisk.h"
+#include "tests/import/Text.h"
+#include "tests/support/TestFolder.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace {
+
+using Outcome = ImportFile::Outcome;
+
+class ImportFileTest : public testing::Test {
+protected:
+    FaultyDisk calls;
+    TestFolder folder{calls};
+    const QString path = Text("c:\\school\\students.txt");
+
+    ImportFile Counted(const QByteArray& bytes) {
+        folder.Write(path, bytes);
+        ImportFile file(path);
+        EXPECT_EQ(Outcome::Done, file.Count({}).What);
+        return file;
+    }
+
+    static QString FirstField(const ImportFile& file, std::int64_t number) {
+        ImportRecord record;
+        const ImportFile::Result result = file.Read(number, record);
+        return result.What == Outcome::Done ? record.Fields.value(0) : Text("(error)");
+    }
+};
+
+TEST_F(ImportFileTest, ReadsEveryRecordWhateverEndsTheLines) {
+    for (const char* end : {"\r\n", "\n", "\r"}) {
+        for (const bool lastEnded : {true, false}) {
+            QByteArray bytes;
+            for (int number = 1; number <= 5; ++number) {
+                bytes += "name" + QByteArray::number(number) + ",x" + (number < 5 || lastEnded ? end : "");
+            }
+            const ImportFile file = Counted(bytes);
+            ASSERT_EQ(5, file.RecordCount());
+            for (int number = 1; number <= 5; ++number) {
+                EXPECT_EQ(Text("name") + QString::number(number), FirstField(file, number));
+            }
+        }
+    }
+}
+
+TEST_F(ImportFileTest, ReadsMixedLineEndsAndEmptyLines) {
+    const ImportFile file = Counted("\r\na\rb\n\r\r\nc\n\nlast");
+    const char* const expected[] = {"", "a", "b", "", "", "c", "", "last"};
+    ASSERT_EQ(8, file.RecordCount());
+    for (int number = 1; number <= 8; ++number) {
+        EXPECT_EQ(Text(expected[number - 1]), FirstField(file, number)) << number;
+    }
+}
+
+TEST_F(ImportFileTest, FindsAnyRecordOfALongFileWithoutReadingItAgain) {
+    QByteArray bytes;
+    const char* const ends[] = {"\r\n", "\n", "\r"};
+    for (int number = 1; number <= 200000; ++number) {
+        bytes += QByteArray::number(number) + ",Smith,John" + ends[number % 3];
+    }
+    const ImportFile file = Counted(bytes);
+    ASSERT_EQ(200000, file.RecordCount());
+    for (int number = 1; number <= 200000; number += number < 199000 ? 997 : 1) {
+        ASSERT_EQ(QString::number(number), FirstField(file, number));
+    }
+    calls.BytesRead = 0;
+    EXPECT_EQ(Text("200000"), FirstField(file, 200000));
+    EXPECT_LT(calls.BytesRead, 600000);
+}
+
+TEST_F(ImportFileTest, ReadsTheFirstRecordBeforeCounting) {
+    folder.Write(path, "a,b\r\nc,d");
+    ImportRecord record;
+    EXPECT_FALSE(ImportFile(path).ReadFirst(record));
+    EXPECT_EQ(QStringList({Text("a"), Text("b")}), record.Fields);
+    folder.Write(path, "\r\nc,d");
+    EXPECT_FALSE(ImportFile(path).ReadFirst(record));
+    EXPECT_EQ(QStringList({QString()}), record.Fields);
+}
+
+TEST_F(ImportFileTest, KeepsLittleOfALineOf50Megabytes) {
+    QByteArray line(50'000'000, 'x');
+    line[20'000'000] = '\t';
+    const ImportFile file = Counted("first,1\r\n" + line + "\r\nlast");
+    ASSERT_EQ(3, file.RecordCount());
+    ImportRecord record;
+    ASSERT_EQ(Outcome::Done, file.Read(2, record).What);
+    EXPECT_EQ('\t', record.Separator);
+    EXPECT_EQ(QStringList({QString(ShownCharacters, QChar(u'x')), QString(ShownCharacters, QChar(u'x'))}),
+              record.Fields);
+    EXPECT_EQ(Text("last"), FirstField(file, 3));
+}
+
+TEST_F(ImportFileTest, AgreesWithRecordsSplitInMemory) {
+    const QByteArray quoted = "\"" + QByteArray(100000, 'q') + ",\t" + QByteArray(70000, ' ') + "\",b";
+    const QByteArray blanks = QByteArray(150000, ' ') + "a , b" + QByteArray(150000, ' ');
+    const ImportFile file = Counted(quoted + "\n" + blanks + "\n");
+    const QByteArray lines[] = {quoted, blanks};
+    for (int number = 1; number <= 2; ++number) {
+        ImportRecord record;
+        ASSERT_EQ(Outcome::Done, file.Read(number, record).What);
+        EXPECT_EQ(SplitImportRecord(lines[number - 1]).Fields, record.Fields);
+    }
+}
+
+TEST_F(ImportFileTest, ReportsWhatCannotBeRead) {
+    folder.MakeFolder(Text("c:\\school\\folder"));
+    folder.Write(Text("c:\\school\\empty"), "");
+    folder.Write(Text("c:\\school\\locked"), "a");
+    std::filesystem::permissions(folder.Native(Text("c:\\school\\locked")), std::filesystem::perms::none);
+    const struct {
+        const char* path;
+        int number;
+    } cases[] = {{"c:\\school\\none.txt", 53}, {"c:\\none\\students.txt", 76}, {"c:\\school\\folder", 75},
+                 {"c:\\school\\empty", 62},    {"x:\\students.txt", 68},       {"", 52}};
+    for (const auto& row : cases) {
+        ImportRecord record;
+        EXPECT_EQ(row.number, ImportFile(Text(row.path)).ReadFirst(record).Number) << row.path;
+        if (row.number != 62) {
+            ImportFile file(Text(row.path));
+            const ImportFile::Result result = file.Count({});
+            EXPECT_EQ(Outcome::Failed, result.What) << row.path;
+            EXPECT_EQ(row.number, result.Error.Number) << row.path;
+        }
+    }
+    std::ifstream readable(folder.Native(Text("c:\\school\\locked")));
+    if (!readable.good()) { // the administrator of the machine may read everything
+        ImportRecord record;
+        EXPECT_EQ(70, ImportFile(Text("c:\\school\\locked")).ReadFirst(record).Number);
+    }
+}
+
+TEST_F(ImportFileTest, CountsNoRecordInAnEmptyFile) {
+    EXPECT_EQ(0, Counted("").RecordCount());
+}
+
+TEST_F(ImportFileTest, NoticesThatSomebodyWroteToTheFile) {
+    const char* const contents[] = {"a\n", "a\nb\nc\nd\n", "", "x\ny\nz\n"};
+    for (const char* changed : contents) {
+        const ImportFile file = Counted("a\nb\nc\n");
+        folder.Write(path, changed);
+        const auto later = std::filesystem::last_write_time(folder.Native(path)) + std::chrono::seconds(2);
+        std::filesystem::last_write_time(folder.Native(path), later);
+        ImportRecord record;
+        record.Fields = {Text("kept")};
+        EXPECT_EQ(Outcome::Changed, file.Read(3, record).What) << changed;
+        EXPECT_EQ(QStringList({Text("kept")}), record.Fields);
+    }
+}
+
+TEST_F(ImportFileTest, ReportsAVanishedFile) {
+    const ImportFile file = Counted("a\nb\n");
+    folder.Remove(path);
+    ImportRecord record;
+    const ImportFile::Result result = file.Read(2, record);
+    EXPECT_EQ(Outcome::Failed, result.What);
+    EXPECT_EQ(53, result.Error.Number);
+}
+
+TEST_F(ImportFileTest, ReportsADeviceThatFails) {
+    const ImportFile file = Counted("a\nb\n");
+    calls.ReadFailure = EIO;
+    ImportRecord record;
+    const ImportFile::Result result = file.Read(2, record);
+    EXPECT_EQ(Outcome::Failed, result.What);
+    EXPECT_EQ(57, result.Error.Number);
+}
+
+TEST_F(ImportFileTest, KeepsWhatWasCountedBeforeAFailure) {
+    folder.Write(path, QByteArray("0123456\n").repeated(100000));
+    calls.LongestRead = 64 * 1024;
+    calls.ReadFailure = EIO;
+    calls.ReadsBeforeFailure = 5;
+    ImportFile file(path);
+    const ImportFile::Result result = file.Count({});
+    EXPECT_EQ(Outcome::Failed, result.What);
+    EXPECT_EQ(57, result.Error.Number);
+    EXPECT_EQ(5 * 64 * 1024 / 8, file.RecordCount());
+    calls.ReadFailure = 0;
+    EXPECT_EQ(Text("0123456"), FirstField(file, file.RecordCount()));
+}
+
+TEST_F(ImportFileTest, GoesOnAfterShortAndInterruptedReads) {
+    calls.LongestRead = 1000;
+    calls.Interruptions = 3;
+    const ImportFile file = Counted(QByteArray("0123456\n").repeated(50000));
+    EXPECT_EQ(50000, file.RecordCount());
+    EXPECT_EQ(Text("0123456"), FirstField(file, 50000));
+}
+
+TEST_F(ImportFileTest, StopsWhenAskedTo) {
+    folder.Write(path, QByteArray("0123456\n").repeated(500000));
+    ImportFile file(path);
+    std::int64_t seen = 0;
+    const ImportFile::Result result = file.Count([&](std::int64_t read, std::int64_t size) {
+        EXPECT_EQ(4000000, size);
+        seen = read;
+        return false;
+    });
+    EXPECT_EQ(Outcome::Stopped, result.What);
+    EXPECT_EQ(seen / 8, file.RecordCount());
+    EXPECT_GT(file.RecordCount(), 0);
+    EXPECT_LT(file.RecordCount(), 500000);
+    EXPECT_EQ(Text("0123456"), FirstField(file, file.RecordCount()));
+}
+
+TEST_F(ImportFileTest, TellsWhenTheFileLooksLikeUtf8) {
+    EXPECT_FALSE(Counted("Smith,John\n").LooksLikeUtf8());
+    EXPECT_FALSE(Counted("Andr\xE9,x\n").LooksLikeUtf8());
+    EXPECT_TRUE(Counted("Smith\nAndr\xC3\xA9,x\n").LooksLikeUtf8());
+    EXPECT_TRUE(Counted("\xEF\xBB\xBFSmith\n").LooksLikeUtf8());
+}
+
+} // namespace
