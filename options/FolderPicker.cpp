@@ -76,6 +76,17 @@ void FolderPicker::ArrangeControls() {
     setTabOrder(BrowseButton, ClearButton);
 }
 
+void FolderPicker::NameControls(const QString& purpose) {
+    const QString ending = purpose.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(purpose);
+    const auto name = [&ending](QWidget* control, QString caption) {
+        control->setAccessibleName(caption.remove(u':').remove(u'&').trimmed() + ending);
+    };
+    name(Drive, driveCaption->text());
+    name(Folder, folderCaption->text());
+    name(BrowseButton, BrowseButton->text());
+    name(ClearButton, ClearButton->text());
+}
+
 QString FolderPicker::Chosen() const {
     return Path->text();
 }

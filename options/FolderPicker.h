@@ -58,6 +58,10 @@ public:
     void Browse();
     void Clear();
 
+    /// Gives a screen reader names for lists and buttons: their captions, and what the folder is for in brackets (may
+    /// be empty). To be called after the captions are set.
+    void NameControls(const QString& purpose);
+
     /// The label's text.
     QString Chosen() const;
 

@@ -98,6 +98,11 @@ void PathsPanel::resizeEvent(QResizeEvent* event) {
     }
 }
 
+void PathsPanel::NameControls() {
+    data->NameControls(classFrame->title().remove(QStringLiteral("... ")));
+    backup->NameControls(backupFrame->title().remove(QStringLiteral("... ")));
+}
+
 void PathsPanel::LoadDataPath() {
     ProgramConfig.DefaultPath = LowerCase(TrimBlanks(ProgramConfig.DefaultPath));
     data->Load(ProgramConfig.DefaultPath);

@@ -20,6 +20,9 @@ public:
     /// Puts the labels of the data and backup folders into the settings record.
     void Save() const;
 
+    /// What a screen reader says for the folder lists; after the captions are set.
+    void NameControls();
+
     /// The backup folder check: its label follows its folder list.
     void CheckBackupPath();
 

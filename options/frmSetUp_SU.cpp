@@ -127,6 +127,7 @@ void frmSetUp_SU::SetEditionLanguage(bool french) {
     html->FillOrders();
     setWindowTitle(ProductName + QStringLiteral(" - GENERAL OPTIONS"));
     ApplyCaptions(*this, SetupCaptions(), french ? CaptionLanguage::French : CaptionLanguage::English);
+    paths->NameControls();
     scheme->SetLanguage(french);
     barCodes->NameFields(french);
 }
