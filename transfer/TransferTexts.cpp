@@ -89,9 +89,12 @@ QString WorkHabitsQuestion(const QString& programFolder) {
            programFolder + QStringLiteral(".\n");
 }
 
-QString ReportPathErrorText(const QString& folder) {
-    return QStringLiteral("The PATH [") + folder +
-           QStringLiteral("] to your FILES is invalid.\n\nIf these files are on a floppy disk, please insert the disk "
-                          "and try again.\n\nIf this path is to your hard drive, click on 'Cancel'; then, Reset or "
-                          "Clear the path.");
+QString EditorErrorTitle(CaptionLanguage language) {
+    return ByLanguage(language, "Can't start the text editor", "Impossible de démarrer l'éditeur de texte");
+}
+
+QString EditorErrorText(CaptionLanguage language, const QString& file) {
+    return ByLanguage(language, "Sorry, no text editor could be started for the file '",
+                      "Désolé, aucun éditeur de texte n'a pu être démarré pour le fichier « ") +
+           file + ByLanguage(language, "'.", " ».");
 }

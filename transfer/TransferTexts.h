@@ -34,6 +34,6 @@ QString ReportBrowseText(CaptionLanguage language);
 inline constexpr char16_t WorkHabitsTitle[] = u"CREATE/EDIT 'WorkHabits.txt'";
 QString WorkHabitsQuestion(const QString& programFolder);
 
-/// The text of "REPORT PATH ERROR" for a folder. English only.
-inline constexpr char16_t ReportPathErrorTitle[] = u"REPORT PATH ERROR";
-QString ReportPathErrorText(const QString& folder);
+/// The box when no text editor can be started for `file`.
+QString EditorErrorTitle(CaptionLanguage language);
+QString EditorErrorText(CaptionLanguage language, const QString& file);

@@ -1,5 +1,5 @@
-#include "transfer/SystemAndBoard.h"
 #include "transfer/InformationSystems.h"
+#include "transfer/SystemAndBoard.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "transfer/TransferFile.h"
 #include "tests/support/TestFolder.h"
+#include "transfer/TransferFile.h"
 
 #include <gtest/gtest.h>
 
