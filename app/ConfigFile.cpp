@@ -1,7 +1,7 @@
 #include "app/ConfigFile.h"
 
+#include "app/DamagedFile.h"
 #include "app/ProductTexts.h"
-#include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "platform/ProgramPath.h"
 
@@ -16,31 +16,11 @@ QStringList& CopiesDue() {
     return names;
 }
 
-bool IsMissing(const SystemError& error) {
-    return error == MakeError(ErrorNumber::FileNotFound) || error == MakeError(ErrorNumber::PathNotFound);
-}
-
-// A name beside the file that no file has yet: NAME.damaged-20160307-093000, a second later if that one is taken.
-QString FreeCopyName(const QString& path) {
-    QDateTime time = TheDesktop().Now();
-    QString name;
-    do {
-        name = path + QStringLiteral(".damaged-") + time.toString(QStringLiteral("yyyyMMdd-HHmmss"));
-        time = time.addSecs(1);
-    } while (FileExists(name));
-    return name;
-}
-
 SystemError CopyDamaged(const QString& name) {
     if (!CopiesDue().contains(name)) {
         return {};
     }
-    const QString path = JoinPath(ProgramFolder, name);
-    const FileContents original = ReadWholeFile(path);
-    SystemError error = IsMissing(original.Error) ? SystemError() : original.Error;
-    if (!error && !original.Bytes.isEmpty()) {
-        error = SaveWholeFile(FreeCopyName(path), original.Bytes);
-    }
+    const SystemError error = CopyDamagedFile(JoinPath(ProgramFolder, name));
     if (!error) {
         CopiesDue().removeAll(name);
     }
@@ -53,8 +33,7 @@ bool SaveOneFile(const QString& name, const QByteArray& bytes) {
         error = SaveWholeFile(JoinPath(ProgramFolder, name), bytes);
     }
     if (error) {
-        ShowNotice(MessageIcon::Critical, name + QStringLiteral(" SAVE ERROR: ") + QString::number(error.Number),
-                   QStringLiteral("Unexpected Error while trying to save: ") + name);
+        ReportFailedSave(name, error);
     }
     return !error;
 }
@@ -70,7 +49,7 @@ void LocateProgramConfig() {
 void ReadProgramConfig() {
     CopiesDue().clear();
     const FileContents file = ReadWholeFile(JoinPath(ProgramFolder, ConfigFileName));
-    const bool damaged = file.Error ? !IsMissing(file.Error) : bool(ReadConfigText(file.Bytes, ProgramConfig));
+    const bool damaged = file.Error ? !IsMissingFile(file.Error) : bool(ReadConfigText(file.Bytes, ProgramConfig));
     if (file.Error) {
         ProgramConfig.ConfigLock = 1;
     }

@@ -68,7 +68,8 @@ void FolderPicker::ArrangeControls() {
     grid->addWidget(Path, 1, 1);
     grid->addLayout(buttons, 2, 1);
     grid->addWidget(folderCaption, 0, 2);
-    grid->addWidget(Folder, 0, 3, 3, 1);
+    grid->addWidget(Folder, 0, 3, 4, 1);
+    grid->setRowStretch(3, 1); // the folders alone take what is left
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
     setTabOrder(Drive, Folder);

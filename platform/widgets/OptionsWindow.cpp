@@ -1,0 +1,39 @@
+#include "platform/widgets/OptionsWindow.h"
+
+#include <QKeyEvent>
+#include <QLayout>
+#include <QPushButton>
+#include <algorithm>
+
+namespace {
+
+constexpr QSize WindowSize(800, 600); // logical pixels
+
+} // namespace
+
+OptionsWindow::OptionsWindow(const char* name, QWidget* parent) : QDialog(parent) {
+    setObjectName(QString::fromUtf8(name));
+    setModal(true);
+    resize(WindowSize);
+}
+
+void OptionsWindow::showEvent(QShowEvent* event) {
+    if (layout() != nullptr) {
+        const int width = std::max(layout()->minimumSize().width(), WindowSize.width());
+        const int height = layout()->totalMinimumHeightForWidth(width); // wrapped texts need more than minimumSize says
+        setMinimumSize(width, std::max(height, WindowSize.height()));
+    }
+    QDialog::showEvent(event);
+}
+
+void OptionsWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    if (button != nullptr && button->isEnabled()) {
+        button->click();
+    }
+}

@@ -1,0 +1,175 @@
+#include "options/FolderPicker.h"
+#include "platform/widgets/DropDownList.h"
+#include "platform/widgets/Pictures.h"
+#include "platform/widgets/ProgramStyle.h"
+#include "transfer/TransferTexts.h"
+#include "transfer/frmGWT_SU.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+// How the controls of the window are made and where they stand.
+
+namespace {
+
+constexpr FolderPickerNames PickerNames = {"drvHDir",    "dirHDir",  "lblReportPath", "cmdGWT_Browse",
+                                           "cmdClrPath", "lblDrive", "lblFolder",     "lblCurrent"};
+
+// Places in the setup panel, in logical pixels.
+constexpr QRect SystemFrame(16, 30, 569, 84);
+constexpr QRect BoardFrame(16, 120, 569, 65); // both frames, only one of which is shown
+constexpr QPoint LockPlace(24, 200);          // both pictures, only one of which is shown
+constexpr int LockSize = 32;
+constexpr int LockTextLeft = 76;
+constexpr int HelpLeft = 601;
+constexpr int HelpTop = 30;
+constexpr int SetupHeight = 256;
+
+FolderPickerRules PickerRules() {
+    constexpr CaptionLanguage always = CaptionLanguage::English; // the window's selector never changes
+    FolderPickerRules rules;
+    rules.NoticeTitle = ReportBrowseTitle(always);
+    rules.NoticeText = ReportBrowseText(always);
+    rules.DialogTitle = QStringLiteral("Locate Gradewell Data Folders");
+    rules.PathMustExist = true;
+    rules.PathErrorTitle = QStringLiteral("REPORT PATH ERROR");
+    rules.PathErrorOpening = QStringLiteral("The PATH [");
+    rules.DriveErrorLoud = true;
+    return rules;
+}
+
+template <typename Control>
+Control* Named(Control* control, const char* name) {
+    control->setObjectName(QString::fromUtf8(name));
+    return control;
+}
+
+QLabel* MakeWrappedLabel(const char* name, QWidget* parent) {
+    auto* label = Named(new QLabel(parent), name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+QVBoxLayout* MakeColumn(QWidget* card, int bottom) {
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(Spacing::Margin, 4, Spacing::Margin, bottom);
+    column->setSpacing(4);
+    return column;
+}
+
+} // namespace
+
+void frmGWT_SU::MakeControls() {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Spacing::Margin, Spacing::Margin, Spacing::Margin, Spacing::Margin);
+    column->setSpacing(Spacing::Gap);
+    column->addWidget(MakePathPanel(), 1);
+    MakeSetupPanel();
+    column->addWidget(pnlSetup);
+    column->addWidget(MakeButtons());
+    ArrangeTabOrder();
+}
+
+QWidget* frmGWT_SU::MakePathPanel() {
+    auto* panel = Named(new QGroupBox(this), "pnlAdminPath");
+    QVBoxLayout* column = MakeColumn(panel, Spacing::Margin);
+    column->setSpacing(Spacing::Gap);
+    column->addWidget(MakeWrappedLabel("lblCPHelp", panel));
+    reportPath = new FolderPicker(PickerNames, PickerRules(), panel);
+    reportPath->layout()->setSpacing(Spacing::Gap);
+    reportPath->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored); // it takes what the setup leaves
+    column->addWidget(reportPath, 1);
+    return panel;
+}
+
+// The frames and the lock have fixed places; what the lock does is told to the right of them.
+void frmGWT_SU::MakeSetupPanel() {
+    pnlSetup = Named(new QGroupBox(this), "pnlSetup");
+    pnlSetup->setFixedHeight(SetupHeight);
+    MakeSystemFrame();
+    MakeBoardFrames();
+    MakeLock();
+    lblGWTHelp = MakeWrappedLabel("lblGWTHelp", pnlSetup);
+    lblGWTHelp->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    auto* row = new QHBoxLayout(pnlSetup);
+    row->setContentsMargins(HelpLeft, 8, Spacing::Margin, Spacing::Margin);
+    row->addWidget(lblGWTHelp);
+}
+
+void frmGWT_SU::MakeSystemFrame() {
+    auto* frame = Named(new QGroupBox(pnlSetup), "fraSetupSIS");
+    frame->setGeometry(SystemFrame);
+    QVBoxLayout* column = MakeColumn(frame, Spacing::Gap);
+    auto* caption = Named(new QLabel(frame), "lblSIS");
+    caption->setTextFormat(Qt::PlainText);
+    cboSIS = Named(new DropDownList(frame), "cboSIS");
+    caption->setBuddy(cboSIS);
+    column->addWidget(caption);
+    column->addWidget(cboSIS);
+}
+
+void frmGWT_SU::MakeBoardFrames() {
+    fraSetupBoard = Named(new QGroupBox(pnlSetup), "fraSetupBoard");
+    fraSetupBoard->setGeometry(BoardFrame);
+    cboBoard = Named(new DropDownList(fraSetupBoard), "cboBoard");
+    MakeColumn(fraSetupBoard, Spacing::Gap)->addWidget(cboBoard);
+    fraWH_WorkHabits = Named(new QGroupBox(pnlSetup), "fraWH_WorkHabits");
+    fraWH_WorkHabits->setGeometry(BoardFrame);
+    auto* edit = Named(new QPushButton(fraWH_WorkHabits), "cmdWH_WorkHabits");
+    edit->setAutoDefault(false);
+    MakeColumn(fraWH_WorkHabits, Spacing::Gap)->addWidget(edit, 0, Qt::AlignLeft);
+    connect(edit, &QPushButton::clicked, this, &frmGWT_SU::EditWorkHabits);
+    fraSetupBoard->hide();
+    fraWH_WorkHabits->hide();
+}
+
+void frmGWT_SU::MakeLock() {
+    imgLocked = Named(new PictureButton(QStringLiteral("lock-closed"), LockSize, QStringLiteral("Locked"), pnlSetup),
+                      "imgLocked");
+    imgUnlocked = Named(new PictureButton(QStringLiteral("lock-open"), LockSize, QStringLiteral("Unlocked"), pnlSetup),
+                        "imgUnlocked");
+    for (PictureButton* picture : {imgLocked, imgUnlocked}) {
+        picture->adjustSize();
+        picture->move(LockPlace);
+        picture->hide();
+    }
+    lblLocked = Named(new ClickableLabel(pnlSetup), "lblLocked");
+    lblLocked->setTextFormat(Qt::PlainText);
+    QFont bold = lblLocked->font();
+    bold.setBold(true);
+    lblLocked->setFont(bold);
+    lblClickLock = Named(new QLabel(pnlSetup), "lblClickLock");
+    lblClickLock->setTextFormat(Qt::PlainText);
+    const int width = BoardFrame.right() - LockTextLeft;
+    lblLocked->setGeometry(LockTextLeft, LockPlace.y(), width / 4, 20);
+    lblClickLock->setGeometry(LockTextLeft, LockPlace.y() + 20, width, 20);
+}
+
+QWidget* frmGWT_SU::MakeButtons() {
+    auto* area = new QWidget(this);
+    auto* save = Named(new QPushButton(area), "cmdSaveRules");
+    auto* cancel = Named(new QPushButton(area), "cmdRulesCancel");
+    auto* row = new QHBoxLayout(area);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Spacing::Gap);
+    row->addStretch();
+    for (QPushButton* button : {save, cancel}) {
+        button->setAutoDefault(false);
+        row->addWidget(button);
+    }
+    connect(save, &QPushButton::clicked, this, &frmGWT_SU::SaveOptions);
+    connect(cancel, &QPushButton::clicked, this, &frmGWT_SU::reject);
+    return area;
+}
+
+void frmGWT_SU::ArrangeTabOrder() {
+    auto* edit = fraWH_WorkHabits->findChild<QPushButton*>();
+    const QWidgetList order = {cboSIS, cboBoard, edit, imgLocked, imgUnlocked};
+    for (qsizetype i = 1; i < order.size(); ++i) {
+        setTabOrder(order[i - 1], order[i]);
+    }
+}
