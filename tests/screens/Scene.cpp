@@ -1,0 +1,43 @@
+#include "tests/screens/Scene.h"
+
+#include "app/CFG_2015.h"
+
+#include <QDir>
+#include <QFile>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+const QString ProgramPath = QStringLiteral("c:\\srv\\gradebook");
+
+QByteArray Sample(const QString& name) {
+    QFile file(QDir(QStringLiteral(SCREENS_SAMPLES)).filePath(name));
+    if (!file.open(QIODevice::ReadOnly)) {
+        std::fprintf(stderr, "%s cannot be read\n", qPrintable(file.fileName()));
+        std::exit(1);
+    }
+    return file.readAll();
+}
+
+} // namespace
+
+Scene::Scene(Edition edition) {
+    for (const QString& name : QDir(QStringLiteral(SCREENS_SAMPLES)).entryList(QDir::Files)) {
+        Machine.Write(ProgramPath + u'\\' + name, Sample(name));
+    }
+    for (const char* folder : {"marks", "admin", "photos", "html", "backup", "reports"}) {
+        Machine.MakeFolder(ProgramPath + u'\\' + QLatin1String(folder));
+    }
+    ProgramFolder = ProgramPath;
+    SetProductTexts(edition);
+    SetTitleLine(TheDesktop().Now().date().year());
+    ProgramConfig = {};
+    SetDefaultSettings();
+    SetDatePatterns(ProgramConfig.TwoDigitYear);
+    LocateProgramConfig();
+}
+
+void Scene::AddTransferProgram() {
+    Machine.Write(ProgramFolder + u'\\' + TransferExeName, "A program");
+}
