@@ -26,9 +26,6 @@ Scene::Scene(Edition edition) {
     for (const QString& name : QDir(QStringLiteral(SCREENS_SAMPLES)).entryList(QDir::Files)) {
         Machine.Write(ProgramPath + u'\\' + name, Sample(name));
     }
-    for (const char* folder : {"marks", "admin", "photos", "html", "backup", "reports"}) {
-        Machine.MakeFolder(ProgramPath + u'\\' + QLatin1String(folder));
-    }
     ProgramFolder = ProgramPath;
     SetProductTexts(edition);
     SetTitleLine(TheDesktop().Now().date().year());
@@ -36,6 +33,11 @@ Scene::Scene(Edition edition) {
     SetDefaultSettings();
     SetDatePatterns(ProgramConfig.TwoDigitYear);
     LocateProgramConfig();
+    for (const QString& folder :
+         {ProgramConfig.DefaultPath, ProgramConfig.PathToAdmin, ProgramConfig.PathToStudentPhotos,
+          ProgramConfig.HTMLPath, ProgramConfig.BackupDestinationPath}) {
+        Machine.MakeFolder(folder);
+    }
 }
 
 void Scene::AddTransferProgram() {

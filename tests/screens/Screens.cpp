@@ -3,6 +3,7 @@
 
 #include "app/frmMaster_SU.h"
 #include "options/frmSetUp_SU.h"
+#include "platform/widgets/Pictures.h"
 #include "platform/widgets/ProgramStyle.h"
 #include "tests/screens/Pictures.h"
 #include "tests/screens/Scene.h"
@@ -11,8 +12,8 @@
 #include <QDir>
 #include <QPushButton>
 #include <QStyle>
-#include <QToolButton>
 #include <cstdio>
+#include <gtest/gtest.h>
 #include <stdexcept>
 
 namespace {
