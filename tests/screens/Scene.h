@@ -1,0 +1,14 @@
+#pragma once
+
+#include "app/ProductTexts.h"
+#include "tests/support/TestFolder.h"
+
+/// A machine with the sample files, as a window finds it after the program's start in an edition.
+class Scene {
+public:
+    explicit Scene(Edition edition);
+
+    TestFolder Machine;
+    /// Puts the Transfer Program into the program folder, so that the menu offers its area.
+    void AddTransferProgram();
+};

@@ -1,0 +1,102 @@
+/// Takes a picture of every window and panel: screens english|french light|dark PICTURE-FOLDER. The scale is that of
+/// QT_SCALE_FACTOR. Ends with 0 when every picture was taken and no window showed a message.
+
+#include "app/frmMaster_SU.h"
+#include "options/frmSetUp_SU.h"
+#include "platform/widgets/Pictures.h"
+#include "platform/widgets/ProgramStyle.h"
+#include "tests/screens/Pictures.h"
+#include "tests/screens/Scene.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPushButton>
+#include <QStyle>
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+namespace {
+
+QPalette DarkPalette() {
+    const QColor text(0xe6, 0xe6, 0xe6);
+    const QColor faint(0x82, 0x82, 0x82);
+    QPalette palette(QColor(0x3a, 0x3a, 0x3c), QColor(0x2b, 0x2b, 0x2d));
+    palette.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x20));
+    palette.setColor(QPalette::AlternateBase, QColor(0x2b, 0x2b, 0x2d));
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb7));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x6c, 0xb2, 0xf5));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+    palette.setColor(QPalette::ToolTipBase, QColor(0x3a, 0x3a, 0x3c));
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, faint);
+    return palette;
+}
+
+void TakeMenu(Edition edition, PictureTaker& pictures) {
+    Scene scene(edition);
+    scene.AddTransferProgram();
+    frmMaster_SU menu({});
+    menu.Form_Load(edition, ProgramFolder);
+    pictures.Take(menu, "menu");
+    menu.fraGeneral->imgUnlocked->click();
+    pictures.Take(menu, "menu-locked");
+}
+
+void TakeMenuWithoutTransfer(Edition edition, PictureTaker& pictures) {
+    Scene scene(edition);
+    frmMaster_SU menu({});
+    menu.Form_Load(edition, ProgramFolder);
+    pictures.Take(menu, "menu-without-transfer");
+}
+
+void TakeGeneralOptions(Edition edition, PictureTaker& pictures) {
+    Scene scene(edition);
+    frmSetUp_SU window;
+    const char* panels[] = {"paths", "dates", "mail", "bar-codes", "printer", "html-report", "grade-schemes"};
+    int index = 0;
+    for (const char* panel : panels) {
+        auto* button = window.findChild<QPushButton*>(QStringLiteral("cmdSetup(%1)").arg(index++));
+        if (button == nullptr) {
+            throw std::runtime_error(std::string("There is no button for the panel ") + panel);
+        }
+        button->click();
+        pictures.Take(window, (std::string("general-options-") + panel).c_str());
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 4 || !QDir().mkpath(arguments[3])) {
+        std::fputs("Usage: screens english|french light|dark PICTURE-FOLDER\n", stderr);
+        return 2;
+    }
+    ProgramStyle::Install();
+    QApplication::setCursorFlashTime(0);
+    QApplication::setPalette(arguments[2] == QLatin1String("dark") ? DarkPalette()
+                                                                   : QApplication::style()->standardPalette());
+    const Edition edition = arguments[1] == QLatin1String("french") ? Edition::French : Edition::English;
+    const int percent = qRound(qApp->devicePixelRatio() * 100);
+    PictureTaker pictures(arguments[3], QStringLiteral("%1-%2-%3").arg(arguments[1], arguments[2]).arg(percent));
+    try {
+        TakeMenu(edition, pictures);
+        TakeMenuWithoutTransfer(edition, pictures);
+        TakeGeneralOptions(edition, pictures);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return 1;
+    }
+    std::printf("%s %s %d %%: %d pictures, %d controls clipped\n", qPrintable(arguments[1]), qPrintable(arguments[2]),
+                percent, pictures.Count(), pictures.ClippedCount());
+    return testing::UnitTest::GetInstance()->ad_hoc_test_result().Failed() ? 1 : 0;
+}
