@@ -9,8 +9,9 @@
 
 namespace {
 
-// The configuration files that are still to be copied before a save may replace them, because the file that was read
-// is damaged: a whole newer file beside a damaged older one must not be lost either.
+// The configuration files that are still to be copied before a save may replace them, because what is in them was not
+// wholly read: the file was damaged, or it could not be reached when the program started. A whole newer file beside a
+// damaged older one must not be lost either.
 QStringList& CopiesDue() {
     static QStringList names;
     return names;
@@ -42,18 +43,21 @@ bool SaveOneFile(const QString& name, const QByteArray& bytes) {
 
 void LocateProgramConfig() {
     const QString older = QString::fromUtf16(OlderConfigFile);
-    ConfigFileName = FileExists(JoinPath(ProgramFolder, older)) ? older : QString::fromUtf16(NewerConfigFile);
+    const bool noOlder = LookForFile(JoinPath(ProgramFolder, older)) == FilePresence::Missing;
+    ConfigFileName = noOlder ? QString::fromUtf16(NewerConfigFile) : older;
     ReadProgramConfig();
 }
 
 void ReadProgramConfig() {
     CopiesDue().clear();
     const FileContents file = ReadWholeFile(JoinPath(ProgramFolder, ConfigFileName));
-    const bool damaged = file.Error ? !IsMissingFile(file.Error) : bool(ReadConfigText(file.Bytes, ProgramConfig));
+    bool wholeFile = false;
     if (file.Error) {
         ProgramConfig.ConfigLock = 1;
+    } else {
+        wholeFile = !ReadConfigText(file.Bytes, ProgramConfig) && !HasLaterSections(file.Bytes);
     }
-    if (damaged) {
+    if (!wholeFile) {
         CopiesDue() = {QString::fromUtf16(OlderConfigFile), QString::fromUtf16(NewerConfigFile)};
     }
 }

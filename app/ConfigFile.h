@@ -16,6 +16,9 @@ inline constexpr char16_t PathFile[] = u"GdWlPath.cfg";
 /// is 1. Returns the fault with its line, or none. A stored start month never survives: SchoolYearStartMonth becomes 1.
 ItemError ReadConfigText(const QByteArray& bytes, ProgramConfigRecord& config);
 
+/// Whether the file has more sections than this version knows, which a save would not write again.
+bool HasLaterSections(const QByteArray& bytes);
+
 /// The bytes of the file for the record. `titleLine` must hold no comma.
 QByteArray WriteConfigText(const ProgramConfigRecord& config, const QString& titleLine);
 

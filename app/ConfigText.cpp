@@ -20,15 +20,22 @@ public:
         return reader.Error();
     }
 
+    bool HasLaterSections() {
+        return ReadToSectionCount() && sectionCount > static_cast<int>(CountedSections().size());
+    }
+
 private:
     ItemReader reader;
     ProgramConfigRecord& config;
+    std::int16_t sectionCount = 0;
     std::int16_t pairLast = 0; // the highest bar code pair that this file holds
 
+    bool ReadToSectionCount() {
+        return reader.Skip(2) && ReadLock() && ReadFixedSections() && reader.Skip() && reader.ReadNumber(sectionCount);
+    }
+
     bool ReadAll() {
-        std::int16_t sectionCount = 0;
-        if (!reader.Skip(2) || !ReadLock() || !ReadFixedSections() || !reader.Skip() ||
-            !reader.ReadNumber(sectionCount)) {
+        if (!ReadToSectionCount()) {
             return false;
         }
         const auto& sections = CountedSections();
@@ -173,6 +180,11 @@ private:
 
 ItemError ReadConfigText(const QByteArray& bytes, ProgramConfigRecord& config) {
     return ConfigReader(bytes, config).ReadFile();
+}
+
+bool HasLaterSections(const QByteArray& bytes) {
+    ProgramConfigRecord unused;
+    return ConfigReader(bytes, unused).HasLaterSections();
 }
 
 QByteArray WriteConfigText(const ProgramConfigRecord& config, const QString& titleLine) {

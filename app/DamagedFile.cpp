@@ -5,29 +5,34 @@
 
 namespace {
 
+constexpr int MostCopies = 100; // names that earlier copies may have taken already
+
 // A name beside the file that no file has yet: NAME.damaged-20160307-093000, a second later if that one is taken.
+// Empty when none is known to be free.
 QString FreeCopyName(const QString& path) {
-    QDateTime time = TheDesktop().Now();
-    QString name;
-    do {
-        name = path + QStringLiteral(".damaged-") + time.toString(QStringLiteral("yyyyMMdd-HHmmss"));
-        time = time.addSecs(1);
-    } while (FileExists(name));
-    return name;
+    const QDateTime now = TheDesktop().Now();
+    for (int later = 0; later < MostCopies; ++later) {
+        const QString time = now.addSecs(later).toString(QStringLiteral("yyyyMMdd-HHmmss"));
+        const QString name = path + QStringLiteral(".damaged-") + time;
+        if (LookForFile(name) == FilePresence::Missing) {
+            return name;
+        }
+    }
+    return {};
 }
 
 } // namespace
 
 SystemError CopyDamagedFile(const QString& path) {
     const FileContents original = ReadWholeFile(path);
-    if (original.Error || original.Bytes.isEmpty()) {
-        return IsMissingFile(original.Error) ? SystemError() : original.Error;
+    if (original.Error == MakeError(ErrorNumber::FileNotFound)) {
+        return {};
     }
-    return SaveWholeFile(FreeCopyName(path), original.Bytes);
-}
-
-bool IsMissingFile(const SystemError& error) {
-    return error == MakeError(ErrorNumber::FileNotFound) || error == MakeError(ErrorNumber::PathNotFound);
+    if (original.Error || original.Bytes.isEmpty()) {
+        return original.Error;
+    }
+    const QString name = FreeCopyName(path);
+    return name.isEmpty() ? MakeError(ErrorNumber::PathFileAccess) : SaveWholeFile(name, original.Bytes);
 }
 
 void ReportFailedSave(const QString& name, const SystemError& error) {

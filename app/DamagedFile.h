@@ -10,8 +10,5 @@
 /// empty file needs none. Returns the error that kept the copy from being made; the file must then not be replaced.
 SystemError CopyDamagedFile(const QString& path);
 
-/// Whether a read failed only because there is no such file or folder.
-bool IsMissingFile(const SystemError& error);
-
 /// The message box of a failed save, with the file's bare name and the error's number.
 void ReportFailedSave(const QString& name, const SystemError& error);

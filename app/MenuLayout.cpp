@@ -1,33 +1,15 @@
 #include "app/MenuLayout.h"
 
+#include "platform/widgets/ExplanationLabel.h"
 #include "platform/widgets/ProgramStyle.h"
 
 #include <QVBoxLayout>
 
-namespace {
-
-/// A wrapping text that takes the width it is given. A plain label tries several widths, and lays its text out for each
-/// of them, to find one that pleases it; nobody asks for that here, and it is a good part of the start.
-class WrappedText : public QLabel {
-public:
-    using QLabel::QLabel;
-
-    QSize sizeHint() const override { return minimumSizeHint(); }
-    QSize minimumSizeHint() const override { return {LeastWidth, fontMetrics().lineSpacing()}; }
-
-private:
-    static constexpr int LeastWidth = 200;
-};
-
-} // namespace
-
 namespace MenuLayout {
 
 QLabel* NewText(QWidget* parent, const char* name) {
-    auto* label = new WrappedText(parent);
+    auto* label = new ExplanationLabel(parent);
     label->setObjectName(QString::fromLatin1(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     return label;
 }

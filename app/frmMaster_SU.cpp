@@ -96,7 +96,6 @@ void frmMaster_SU::ConnectControls() {
 
 bool frmMaster_SU::Form_Load(Edition edition, const QString& programFolder) {
     resize(MenuLayout::WindowWidth, MenuLayout::WindowHeight);
-    setMinimumSize(MenuLayout::WindowWidth, MenuLayout::WindowHeight);
     const bool goesOn = edition == Edition::French ? SpeakFrench_Main() : SpeakEnglish_Main();
     if (!goesOn) {
         return false;
@@ -116,6 +115,7 @@ bool frmMaster_SU::Form_Load(Edition edition, const QString& programFolder) {
     fraTransfer->setVisible(FileOpens(ProgramFolder + QLatin1Char('/') + TransferExeName));
     lblVersion->setText(VersionText);
     lblClient->setText(QString::fromLatin1(BuildDate));
+    fraGeneral->cmdGeneral->setFocus(); // not the lock: a stray Enter must not change it
     return true;
 }
 
@@ -256,7 +256,9 @@ void frmMaster_SU::closeEvent(QCloseEvent* event) {
 void frmMaster_SU::keyPressEvent(QKeyEvent* event) {
     auto* button = qobject_cast<QPushButton*>(focusWidget());
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && button != nullptr) {
-        button->click();
+        if (!event->isAutoRepeat()) { // a key held down is one press
+            button->click();
+        }
         return;
     }
     QWidget::keyPressEvent(event);

@@ -1,3 +1,4 @@
+#include "admin/frmAdmin_SU.h"
 #include "app/BuiltEdition.h"
 #include "app/frmCFG_IconOnly.h"
 #include "app/frmMaster_SU.h"
@@ -7,6 +8,7 @@
 #include "platform/Volumes.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/widgets/ProgramStyle.h"
+#include "transfer/frmGWT_SU.h"
 
 #include <QApplication>
 
@@ -31,7 +33,10 @@ int main(int argc, char** argv) {
     for (const QString& complaint : drives.Complaints) {
         ShowNotice(MessageIcon::Exclamation, QStringLiteral("DRIVES.CONF"), complaint);
     }
-    frmMaster_SU menu({.General = Make<frmSetUp_SU>, .Import = Make<frmImport_SU>, .Admin = {}, .Transfer = {}});
+    frmMaster_SU menu({.General = Make<frmSetUp_SU>,
+                       .Import = Make<frmImport_SU>,
+                       .Admin = Make<frmAdmin_SU>,
+                       .Transfer = Make<frmGWT_SU>});
     if (!menu.Form_Load(BuiltEdition, drives.ProgramFolder)) {
         return 0;
     }

@@ -4,7 +4,8 @@
 # rules of its component: the program at the top of its folder, the manual in Manuals, nothing else.
 function(gradewell_program name edition edition_source)
     add_executable(${name} app/main.cpp ${edition_source})
-    target_link_libraries(${name} PRIVATE gradewell_flags app_windows options_windows import_windows)
+    target_link_libraries(${name} PRIVATE gradewell_flags app_windows options_windows import_windows
+        admin_windows transfer_windows)
     target_precompile_headers(${name} REUSE_FROM precompiled_widgets)
     install(TARGETS ${name} RUNTIME DESTINATION . COMPONENT ${edition})
     if(TARGET manuals)

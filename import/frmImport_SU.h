@@ -2,12 +2,12 @@
 
 #include "import/FieldMatching.h"
 #include "import/ImportFile.h"
-#include "import/PathLabel.h"
 #include "import/PreviewPanel.h"
 #include "import/ReadingGuard.h"
 #include "import/UpdateOptionsPanel.h"
 #include "platform/widgets/Captions.h"
 #include "platform/widgets/DropDownList.h"
+#include "platform/widgets/PathLabel.h"
 
 #include <QDialog>
 #include <QPointer>

@@ -1,12 +1,12 @@
 #include "options/FolderPicker.h"
 
 #include "options/FolderRule.h"
-#include "options/PathLabel.h"
 #include "platform/CodePage.h"
 #include "platform/Desktop.h"
 #include "platform/ProgramPath.h"
 #include "platform/widgets/DriveList.h"
 #include "platform/widgets/FolderList.h"
+#include "platform/widgets/PathLabel.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -95,14 +95,14 @@ QString FolderPicker::Chosen() const {
 bool FolderPicker::Load(const QString& folder) {
     const QString stored = LowerCase(TrimBlanks(folder));
     const QScopedValueRollback<bool> loading(settingLists, true);
-    Path->ShowPath(stored);
+    Path->setText(stored);
     if (stored.isEmpty()) {
         return true;
     }
     ShowDriveOf(stored);
     if (rules.DropUnreadable && Folder->SetPath(stored)) {
         ShowDriveOf(QString());
-        Path->ShowPath(QString());
+        Path->setText(QString());
         return false;
     }
     if (Open(stored)) {
@@ -112,7 +112,7 @@ bool FolderPicker::Load(const QString& folder) {
 }
 
 void FolderPicker::Check() {
-    Path->ShowPath(LowerCase(Folder->Path()));
+    Path->setText(LowerCase(Folder->Path()));
     if (Folder->Path().isEmpty()) {
         warnedFor.clear();
         return;
@@ -147,7 +147,7 @@ bool FolderPicker::AskAgain(const QString& folder) {
     while (TheDesktop().ShowMessage(question) == MessageAnswer::Retry) {
         if (!Folder->SetPath(folder) && !Folder->Refresh()) {
             ShowDriveOf(folder);
-            Path->ShowPath(LowerCase(Folder->Path()));
+            Path->setText(LowerCase(Folder->Path()));
             WarnOnce();
             return true;
         }
@@ -163,7 +163,7 @@ void FolderPicker::FallBack() {
         Folder->SetPath(QString());
         return;
     }
-    Path->ShowPath(LowerCase(Folder->Path()));
+    Path->setText(LowerCase(Folder->Path()));
     WarnOnce();
 }
 
@@ -223,7 +223,7 @@ void FolderPicker::Browse() {
 }
 
 void FolderPicker::Clear() {
-    Path->ShowPath(QString());
+    Path->setText(QString());
     if (rules.ClearEmptiesLists) {
         const QScopedValueRollback<bool> clearing(settingLists, true);
         Folder->SetPath(QStringLiteral(" "));

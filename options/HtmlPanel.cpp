@@ -3,12 +3,12 @@
 #include "app/CFG_2015.h"
 #include "options/FolderRule.h"
 #include "options/HtmlFileName.h"
-#include "options/PathLabel.h"
 #include "options/PathTexts.h"
 #include "platform/CodePage.h"
 #include "platform/Desktop.h"
 #include "platform/ProgramPath.h"
 #include "platform/widgets/DropDownList.h"
+#include "platform/widgets/PathLabel.h"
 #include "platform/widgets/ProgramStyle.h"
 #include "platform/widgets/TextBox.h"
 
@@ -98,7 +98,7 @@ void HtmlPanel::AddFolderFrame() {
     frame.Column->addLayout(row);
     Column->addWidget(frame.Box);
     connect(browse, &QPushButton::clicked, this, &HtmlPanel::cmdHTML_Browse_Click);
-    connect(clear, &QPushButton::clicked, this, [this] { lblHTML_Path->ShowPath(QString()); });
+    connect(clear, &QPushButton::clicked, this, [this] { lblHTML_Path->setText(QString()); });
 }
 
 void HtmlPanel::ConnectControls() {
@@ -124,7 +124,7 @@ void HtmlPanel::FillOrders() {
 
 void HtmlPanel::Load() {
     ProgramConfig.HTMLPath = LowerCase(ProgramConfig.HTMLPath);
-    lblHTML_Path->ShowPath(ProgramConfig.HTMLPath);
+    lblHTML_Path->setText(ProgramConfig.HTMLPath);
     txtHTML_School->setText(ProgramConfig.HTMLSchool);
     txtHTML_File_Sep1->setText(ProgramConfig.HTMLFileSep1);
     txtHTML_File_Sep2->setText(ProgramConfig.HTMLFileSep2);
@@ -189,7 +189,7 @@ void HtmlPanel::cmdHTML_Browse_Click() {
     const FileDialogAnswer answer = TheDesktop().AskForFile(dialog);
     const QString folder = PickedFolder(answer.FileName);
     if (!answer.Error && !folder.isEmpty()) {
-        lblHTML_Path->ShowPath(LowerCase(folder));
+        lblHTML_Path->setText(LowerCase(folder));
         ProgramConfig.HTMLPath = lblHTML_Path->text();
     }
 }

@@ -1,6 +1,6 @@
 #include "options/PanelParts.h"
 
-#include "options/ExplanationLabel.h"
+#include "platform/widgets/ExplanationLabel.h"
 #include "platform/widgets/ProgramStyle.h"
 
 #include <QLabel>

@@ -2,11 +2,11 @@
 
 #include "app/CFG_2015.h"
 #include "options/FolderPicker.h"
-#include "options/PathLabel.h"
 #include "options/PathTexts.h"
 #include "platform/CodePage.h"
 #include "platform/Desktop.h"
 #include "platform/widgets/FolderList.h"
+#include "platform/widgets/PathLabel.h"
 #include "platform/widgets/ProgramStyle.h"
 
 #include <QHBoxLayout>
@@ -119,7 +119,7 @@ void PathsPanel::LoadBackupPath() {
 
 void PathsPanel::LoadPhotoPath() {
     ProgramConfig.PathToStudentPhotos = LowerCase(ProgramConfig.PathToStudentPhotos);
-    photos->ShowPath(ProgramConfig.PathToStudentPhotos);
+    photos->setText(ProgramConfig.PathToStudentPhotos);
 }
 
 void PathsPanel::CheckBackupPath() {
@@ -141,7 +141,7 @@ void PathsPanel::BrowsePhotos() {
     ProgramConfig.PathToStudentPhotos = choice.Folder;
     ProgramConfig.StudentPhotoExtension = choice.Extension;
     if (choice.IsValid) {
-        photos->ShowPath(choice.Folder);
+        photos->setText(choice.Folder);
     } else {
         TheDesktop().ShowMessage(InvalidPhoto(answer.FileName, choice.Extension));
     }
@@ -150,5 +150,5 @@ void PathsPanel::BrowsePhotos() {
 void PathsPanel::ClearPhotos() {
     ProgramConfig.PathToStudentPhotos.clear();
     ProgramConfig.StudentPhotoExtension.clear();
-    photos->ShowPath(QString());
+    photos->setText(QString());
 }

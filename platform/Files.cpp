@@ -58,8 +58,17 @@ SystemError DeleteWholeFile(const QString& path) {
     return ErrorFromErrno(-Retried([&] { return calls.Remove(file.Path); }));
 }
 
+FilePresence LookForFile(const QString& path) {
+    const Located file = LocateFile(path);
+    if (!file.Error) {
+        return FilePresence::Present;
+    }
+    const bool missing = file.Error == MakeError(ErrorNumber::FileNotFound) || file.Status.IsFolder;
+    return missing ? FilePresence::Missing : FilePresence::Unknown;
+}
+
 bool FileExists(const QString& path) {
-    return !LocateFile(path).Error;
+    return LookForFile(path) == FilePresence::Present;
 }
 
 bool FileOpens(const QString& path) {

@@ -23,7 +23,16 @@ SystemError SaveWholeFile(const QString& path, const QByteArray& bytes);
 /// Deletes the file.
 SystemError DeleteWholeFile(const QString& path);
 
-/// Whether a file, not a folder, of that name exists.
+/// What a look at the disk says of a file.
+enum class FilePresence {
+    Present,
+    Missing, ///< its folder could be read and holds no file of that name (a folder of that name is no file)
+    Unknown, ///< the look failed: no such drive or folder, a device error, access refused
+};
+
+FilePresence LookForFile(const QString& path);
+
+/// Whether a file, not a folder, of that name is known to exist.
 bool FileExists(const QString& path);
 
 /// Whether the file can be opened for reading.

@@ -13,11 +13,12 @@ namespace {
 
 constexpr qsizetype DriveLength = 2;
 
-bool IsFolder(SystemCalls& calls, const NativePath& path) {
+// 0 for a folder (a symbolic link to one, too: "." looks through it), ENOTDIR for anything else, or what failed.
+int FolderFailure(SystemCalls& calls, const NativePath& path) {
     SystemCalls::FileStatus status;
     const NativePath inside = path / ".";
-    return Retried([&] { return calls.Status(inside, status); }) == 0 &&
-           status.IsFolder; // "." looks through a symbolic link
+    const int failure = -Retried([&] { return calls.Status(inside, status); });
+    return failure == 0 && !status.IsFolder ? ENOTDIR : failure;
 }
 
 NativePath Normal(const NativePath& path) {
@@ -111,7 +112,7 @@ Volumes::NativeResult MappedVolumes::ToNative(const QString& path) const {
     if (!SplitComponents(whole.mid(DriveLength), components)) {
         return {{}, MakeError(ErrorNumber::BadFileName)};
     }
-    if (!IsFolder(calls, *root)) {
+    if (FolderFailure(calls, *root) != 0) {
         return {{}, MakeError(ErrorNumber::DiskNotReady)};
     }
     NativePath native = *root;
@@ -122,8 +123,8 @@ Volumes::NativeResult MappedVolumes::ToNative(const QString& path) const {
         if (found == Lookup::Failed && !(last && failure == EACCES)) {
             return {{}, FolderError(failure)};
         }
-        if (!last && !IsFolder(calls, native)) {
-            return {{}, MakeError(ErrorNumber::PathNotFound)};
+        if (const int notFolder = last ? 0 : FolderFailure(calls, native)) {
+            return {{}, FolderError(notFolder)};
         }
     }
     return {native, {}};
@@ -167,7 +168,8 @@ Volumes::FolderResult MappedVolumes::ListFolders(const QString& path) const {
     QStringList folders;
     for (const NativePath& name : names) {
         const auto text = TextFromNative(name);
-        if (text && !text->startsWith(u'.') && NameFitsProgramPath(*text) && IsFolder(calls, folder.Path / name)) {
+        if (text && !text->startsWith(u'.') && NameFitsProgramPath(*text) &&
+            FolderFailure(calls, folder.Path / name) == 0) {
             folders.append(*text);
         }
     }

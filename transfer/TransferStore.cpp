@@ -28,7 +28,7 @@ bool LoadTransferFile(const QString& name, TransferSettings& settings) {
     }
     TransferLock = failed ? std::int16_t(1) : settings.TransferLock;
     settings.TransferLock = TransferLock;
-    if (failed && !IsMissingFile(file.Error)) {
+    if (failed) { // a missing file needs no copy, but one that was only out of reach may be back by then
         DamagedPath() = path;
     }
     return !failed;

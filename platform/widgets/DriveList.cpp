@@ -32,6 +32,7 @@ void DriveList::Refresh() {
     clear();
     addItems(TheDesktop().TheVolumes().Drives());
     setCurrentIndex(selected.isEmpty() ? -1 : findText(selected));
+    announced = Drive(); // a drive that vanished counts as a change when it is chosen again
 }
 
 void DriveList::showPopup() {

@@ -3,20 +3,29 @@
 #include "platform/widgets/Pictures.h"
 #include "platform/widgets/TextBox.h"
 
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QApplication>
-#include <QEvent>
-#include <QShortcutEvent>
+#include <QTabBar>
 
 namespace {
 
-TextBox* FocusedBox() {
-    return qobject_cast<TextBox*>(QApplication::focusWidget());
+LeaveGuard* installedGuard = nullptr;
+
+TextBox* FocusedBoxIn(const QWidget& window) {
+    return qobject_cast<TextBox*>(window.focusWidget());
 }
 
-// Whether a press there does something: it would take the focus or is a picture or label that can be clicked.
+bool ActsWithoutFocus(const QWidget& widget) {
+    return qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr ||
+           qobject_cast<const QTabBar*>(&widget) != nullptr || qobject_cast<const ClickableLabel*>(&widget) != nullptr;
+}
+
+// Whether a press there does something: it would take the focus, or it acts without.
 bool ActsOnPress(const QWidget& widget) {
     for (const QWidget* at = &widget; at != nullptr && !at->isWindow(); at = at->parentWidget()) {
-        if ((at->focusPolicy() & Qt::ClickFocus) != 0 || qobject_cast<const ClickableLabel*>(at) != nullptr) {
+        if ((at->focusPolicy() & Qt::ClickFocus) != 0 || ActsWithoutFocus(*at)) {
             return at->isEnabled();
         }
     }
@@ -24,18 +33,26 @@ bool ActsOnPress(const QWidget& widget) {
 }
 
 bool StartsElsewhere(const QWidget& receiver, const TextBox& box) {
-    return &receiver != &box && !box.isAncestorOf(&receiver) && receiver.window() == box.window();
+    const auto* label = qobject_cast<const QLabel*>(&receiver);
+    const bool ownLabel = label != nullptr && label->buddy() == &box; // its access key leads into the box itself
+    return &receiver != &box && !box.isAncestorOf(&receiver) && !ownLabel;
 }
 
 } // namespace
 
 void LeaveGuard::Install() {
-    static LeaveGuard* guard = nullptr;
-    if (guard == nullptr) {
-        guard = new LeaveGuard(qApp);
-        qApp->installEventFilter(guard);
-        connect(guard, &QObject::destroyed, [] { guard = nullptr; });
+    if (installedGuard == nullptr) {
+        installedGuard = new LeaveGuard(qApp);
+        qApp->installEventFilter(installedGuard);
+        connect(installedGuard, &QObject::destroyed, [] { installedGuard = nullptr; });
     }
+}
+
+void LeaveGuard::RefusePressIn(const QWidget* window) {
+    installedGuard->refusedIn = window;
+    // The press arrives before the event loop goes on; one that never arrives must not cost a later one.
+    QMetaObject::invokeMethod(
+        installedGuard, [guard = installedGuard] { guard->refusedIn = nullptr; }, Qt::QueuedConnection);
 }
 
 bool LeaveGuard::eventFilter(QObject* receiver, QEvent* event) {
@@ -45,20 +62,32 @@ bool LeaveGuard::eventFilter(QObject* receiver, QEvent* event) {
         refusedPress = nullptr;
         return true;
     }
-    if (!press && type != QEvent::Shortcut) {
+    auto* widget = qobject_cast<QWidget*>(receiver);
+    if (widget == nullptr || (!press && type != QEvent::Shortcut)) {
         return false;
     }
-    TextBox* box = FocusedBox();
-    const auto* widget = qobject_cast<QWidget*>(receiver);
-    if (box == nullptr || widget == nullptr || !StartsElsewhere(*widget, *box) || (press && !ActsOnPress(*widget))) {
+    const bool refused = Refuses(*widget, type);
+    if (press) {
+        refusedPress = refused ? receiver : nullptr;
+    }
+    return refused;
+}
+
+bool LeaveGuard::Refuses(QWidget& widget, QEvent::Type type) {
+    const bool press = type != QEvent::Shortcut;
+    if (press && refusedIn == widget.window()) {
+        refusedIn = nullptr;
+        return true;
+    }
+    TextBox* box = FocusedBoxIn(*widget.window());
+    if (box == nullptr || !StartsElsewhere(widget, *box) || (press && !ActsOnPress(widget))) {
         return false;
     }
-    if (!(press && box->TakeRefusedPress()) && box->Leave()) {
-        if (type == QEvent::Shortcut && widget->focusPolicy() != Qt::NoFocus && widget->isEnabled()) {
-            qobject_cast<QWidget*>(receiver)->setFocus(Qt::ShortcutFocusReason);
-        }
-        return false;
+    if (!box->Leave()) {
+        return true;
     }
-    refusedPress = press ? receiver : nullptr;
-    return true;
+    if (!press && widget.focusPolicy() != Qt::NoFocus && widget.isEnabled()) {
+        widget.setFocus(Qt::ShortcutFocusReason);
+    }
+    return false;
 }

@@ -28,7 +28,9 @@ PictureButton::PictureButton(const QString& picture, int size, const QString& ac
 void PictureButton::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         event->accept();
-        click();
+        if (!event->isAutoRepeat()) { // a key held down is one press
+            click();
+        }
         return;
     }
     QToolButton::keyPressEvent(event);

@@ -6,7 +6,6 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPointer>
-#include <QSignalBlocker>
 #include <utility>
 
 namespace {
@@ -20,6 +19,7 @@ bool StaysInside(Qt::FocusReason reason) {
 
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     LeaveGuard::Install();
+    setAcceptDrops(false); // a drop would change a box that nobody enters or leaves
     connect(this, &QLineEdit::textChanged, this, &TextBox::KeepToCodePage);
 }
 
@@ -54,19 +54,17 @@ void TextBox::focusInEvent(QFocusEvent* event) {
 }
 
 // Reached with the rule still to run when a press or code moved the focus; a refusal brings it back before the other
-// control learns of it. The press itself comes later, and the guard asks what became of it.
+// control learns of it. The press itself comes later; the guard stops it.
 void TextBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     away = StaysInside(event->reason());
     const bool leaving = !away && window()->isVisible() && isEnabled() && isVisible();
     if (leaving && !Leave() && !runningRule) {
-        refusedPress = event->reason() == Qt::MouseFocusReason;
+        if (event->reason() == Qt::MouseFocusReason) {
+            LeaveGuard::RefusePressIn(window());
+        }
         setFocus(Qt::OtherFocusReason);
     }
-}
-
-bool TextBox::TakeRefusedPress() {
-    return std::exchange(refusedPress, false);
 }
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
@@ -96,13 +94,20 @@ bool TextBox::focusNextPrevChild(bool next) {
     return Leave() ? QLineEdit::focusNextPrevChild(next) : true;
 }
 
+// Each character that the code page lacks is replaced where it stands, so that Undo goes on working.
 void TextBox::KeepToCodePage() {
-    const QString kept = OnlyCodePage(text());
-    if (kept == text()) {
+    entered = entered || (hasFocus() && !runningRule); // changed after the rule had run: it is to run again
+    const QString now = text();
+    qsizetype at = 0;
+    while (at < now.size() && CodePageHas(now[at])) {
+        ++at;
+    }
+    if (at == now.size()) {
         return;
     }
-    const qsizetype shorter = text().size() - kept.size(); // a surrogate pair becomes one character
+    const bool pair = now[at].isHighSurrogate() && at + 1 < now.size() && now[at + 1].isLowSurrogate();
     const int cursor = cursorPosition();
-    setText(kept);
-    setCursorPosition(cursor - static_cast<int>(shorter));
+    setSelection(static_cast<int>(at), pair ? 2 : 1);
+    insert(QStringLiteral("?")); // comes here again for the next one
+    setCursorPosition(cursor - (pair && cursor > at ? 1 : 0));
 }

@@ -19,13 +19,11 @@ public:
 
     explicit TextBox(QWidget* parent = nullptr);
 
+    /// Sets the rule; without one the box may always be left.
     void SetLostFocusRule(LostFocusRule rule);
 
     /// Runs the rule as leaving would, once for each stay in the box; true when the box may be left.
     bool Leave();
-
-    /// Whether the rule has just refused the press that would have moved the focus; asked once, by the guard.
-    bool TakeRefusedPress();
 
 Q_SIGNALS:
     /// The box got the focus from another control (not from a message box or another program).
@@ -43,8 +41,7 @@ private:
     LostFocusRule lostFocusRule;
     bool entered = false; // the rule has not run since the box got the focus
     bool runningRule = false;
-    bool away = false; // the focus went to a menu, a message box or another program
-    bool refusedPress = false;
+    bool away = false;            // the focus went to a menu, a message box or another program
     bool selectOnRelease = false; // a click that brought the focus selects the text
 
     void KeepToCodePage();

@@ -1,4 +1,4 @@
-#include "options/ExplanationLabel.h"
+#include "platform/widgets/ExplanationLabel.h"
 
 #include <QEvent>
 
