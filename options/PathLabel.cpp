@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <QTextDocument>
 
 namespace {
 
@@ -19,7 +20,7 @@ PathLabel::PathLabel(QWidget* parent) : QLabel(parent) {
 
 void PathLabel::ShowPath(const QString& path) {
     setText(path);
-    setToolTip(path);
+    setToolTip(Qt::mightBeRichText(path) ? path.toHtmlEscaped() : path);
 }
 
 QSize PathLabel::sizeHint() const {
