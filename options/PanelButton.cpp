@@ -10,6 +10,17 @@ constexpr int BarWidth = 4; // logical pixels
 constexpr int TextLeft = 12;
 constexpr int Padding = 10; // above and below the text together
 
+// The text in one line, or broken at its last blank when it would not fit in bold: so it looks the same current or not.
+QString Broken(const QString& text, const QFont& font, int room) {
+    QFont bold = font;
+    bold.setBold(true);
+    const qsizetype blank = text.lastIndexOf(u' ');
+    if (blank < 0 || QFontMetrics(bold).horizontalAdvance(text) <= room) {
+        return text;
+    }
+    return text.left(blank) + u'\n' + text.mid(blank + 1);
+}
+
 } // namespace
 
 PanelButton::PanelButton(QWidget* parent) : QPushButton(parent) {
@@ -38,8 +49,8 @@ void PanelButton::paintEvent(QPaintEvent* event) {
         painter.fillRect(QRect(3, 5, BarWidth, height() - 10), palette().color(QPalette::Highlight));
     }
     const QRect room = rect().adjusted(TextLeft, 0, -BarWidth, 0);
-    painter.drawItemText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, palette(), isEnabled(), text(),
-                         QPalette::ButtonText);
+    painter.drawItemText(room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                         Broken(text(), font(), room.width()), QPalette::ButtonText);
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.QStyleOption::operator=(option);

@@ -122,10 +122,6 @@ void PathsPanel::LoadPhotoPath() {
     photos->setText(ProgramConfig.PathToStudentPhotos);
 }
 
-void PathsPanel::CheckBackupPath() {
-    backup->Check();
-}
-
 void PathsPanel::Save() const {
     ProgramConfig.DefaultPath = data->Chosen();
     ProgramConfig.BackupDestinationPath = backup->Chosen();

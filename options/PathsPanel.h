@@ -23,9 +23,6 @@ public:
     /// What a screen reader says for the folder lists; after the captions are set.
     void NameControls();
 
-    /// The backup folder check: its label follows its folder list.
-    void CheckBackupPath();
-
 protected:
     void resizeEvent(QResizeEvent* event) override;
 

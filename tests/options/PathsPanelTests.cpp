@@ -166,6 +166,24 @@ TEST_F(Paths, FolderOfTheListReachesTheRecordOnSaveOnly) {
     EXPECT_EQ(ProgramConfig.DefaultPath, QStringLiteral("c:\\marks\\2016"));
 }
 
+TEST_F(Paths, DoubleClickOpensAFolder) {
+    Open();
+    auto* list = C<QTreeWidget>(QStringLiteral("dirHDir"));
+    QTreeWidgetItem* parent = list->currentItem()->parent();
+    list->scrollToItem(parent);
+    const QPoint entry = list->visualItemRect(parent).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, entry);
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, entry);
+    EXPECT_EQ(TextOf("lblDfltPath"), QStringLiteral("c:\\marks"));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_End);
+    Screen.Answer(MessageAnswer::Ok);
+    QTest::keyClick(list, Qt::Key_Return); // the last of 2016 and gwdata
+    EXPECT_EQ(TextOf("lblDfltPath"), QStringLiteral("c:\\marks\\gwdata"));
+    EXPECT_EQ(Titles(), QStringLiteral("Gradewell Path Error"));
+    EXPECT_TRUE(IsOpen());
+}
+
 TEST_F(Paths, PhotoOfAnotherKindIsRefusedButTakenIntoTheRecord) {
     Open();
     Screen.Answer(MessageAnswer::Ok);

@@ -197,6 +197,30 @@ INSTANTIATE_TEST_SUITE_P(
                     Cancelling{"CloseButton", [](QWidget& window) { window.close(); }}),
     [](const auto& row) { return std::string(row.param.Name); });
 
+TEST_F(SetupWindow, SharedAccessKeysMoveBetweenTheirButtons) {
+    OpenPanel(6);
+    struct Row {
+        Qt::Key Key;
+        QStringList Buttons;
+    };
+    for (const Row& row : {Row{Qt::Key_S, {QStringLiteral("cmdPrefSave"), QStringLiteral("cmdSaveScheme")}},
+                           Row{Qt::Key_C, {QStringLiteral("cmdClearScheme"), QStringLiteral("cmdPrefCancel")}}}) {
+        QStringList reached;
+        for (int press = 0; press < 4; ++press) {
+            AccessKey(*Window, row.Key);
+            reached.append(Window->focusWidget()->objectName());
+        }
+        EXPECT_NE(reached[0], reached[1]);
+        EXPECT_EQ(reached[0], reached[2]);
+        EXPECT_EQ(reached[1], reached[3]);
+        reached.removeDuplicates();
+        reached.sort();
+        EXPECT_EQ(reached, row.Buttons);
+    }
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(C<QLineEdit>(QStringLiteral("txtABCChr(0)"))->text(), QStringLiteral("F"));
+}
+
 TEST_F(SetupWindow, CancelRebuildsTheDatePatterns) {
     ProgramConfig.TwoDigitYear = 1;
     Open();
