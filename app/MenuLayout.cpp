@@ -15,8 +15,24 @@ public:
     QSize sizeHint() const override { return minimumSizeHint(); }
     QSize minimumSizeHint() const override { return {LeastWidth, fontMetrics().lineSpacing()}; }
 
+    int heightForWidth(int width) const override {
+        if (width != knownWidth || text() != knownText || font() != knownFont) {
+            knownHeight = QLabel::heightForWidth(width);
+            knownWidth = width;
+            knownText = text();
+            knownFont = font();
+        }
+        return knownHeight;
+    }
+
 private:
     static constexpr int LeastWidth = 200;
+
+    // Layouts ask again and again for the same width.
+    mutable int knownWidth = -1;
+    mutable int knownHeight = 0;
+    mutable QString knownText;
+    mutable QFont knownFont;
 };
 
 } // namespace
