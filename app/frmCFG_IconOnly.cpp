@@ -4,9 +4,7 @@
 
 frmCFG_IconOnly::frmCFG_IconOnly() {
     setObjectName(QStringLiteral("frmCFG_IconOnly"));
-    QIcon icon = Picture(QStringLiteral("icon"));
-    for (const int size : {16, 32, 48}) { // a larger one costs more of the start than the whole menu's texts do
-        icon.addFile(QStringLiteral(":/pictures/icon-%1.png").arg(size), QSize(size, size));
-    }
-    setWindowIcon(icon);
+    // A larger one would cost more of the start than all texts of the menu.
+    setWindowIcon(PictureOfSizes(
+        {QStringLiteral("icon-16"), QStringLiteral("icon-32"), QStringLiteral("icon-48"), QStringLiteral("icon")}));
 }

@@ -1,5 +1,7 @@
 #include "platform/widgets/Pictures.h"
 
+#include <QGuiApplication>
+#include <QImageReader>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <utility>
@@ -9,10 +11,34 @@ static void LoadPictures() {
     Q_INIT_RESOURCE(pictures);
 }
 
-QIcon Picture(const QString& name) {
+// Naming the format, and no doubting it, keeps Qt from loading every image plugin of the system to ask whether the
+// picture is one of theirs.
+static QPixmap Drawing(const QString& name, int ratio) {
     static const bool loaded = (LoadPictures(), true);
     Q_UNUSED(loaded);
-    return QIcon(QStringLiteral(":/pictures/%1.png").arg(name));
+    const QString scale = ratio > 1 ? QStringLiteral("@%1x").arg(ratio) : QString();
+    QImageReader reader(QStringLiteral(":/pictures/%1%2.png").arg(name, scale), "png");
+    reader.setAutoDetectImageFormat(false);
+    QPixmap drawing = QPixmap::fromImageReader(&reader);
+    drawing.setDevicePixelRatio(ratio);
+    return drawing;
+}
+
+QIcon Picture(const QString& name) {
+    QIcon icon(Drawing(name, 1));
+    if (qGuiApp->devicePixelRatio() > 1) { // of the sharpest screen there is
+        icon.addPixmap(Drawing(name, 2));
+        icon.addPixmap(Drawing(name, 4));
+    }
+    return icon;
+}
+
+QIcon PictureOfSizes(const QStringList& names) {
+    QIcon icon;
+    for (const QString& name : names) {
+        icon.addPixmap(Drawing(name, 1));
+    }
+    return icon;
 }
 
 PictureButton::PictureButton(const QString& picture, int size, const QString& accessibleName, QWidget* parent)

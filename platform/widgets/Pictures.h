@@ -6,6 +6,9 @@
 /// A picture of resources/pictures by its bare name ("lock-closed"), sharp at every scale.
 QIcon Picture(const QString& name);
 
+/// One picture drawn in several sizes, each under a bare name of its own ("icon-16", "icon-32").
+QIcon PictureOfSizes(const QStringList& names);
+
 /// A picture that can be clicked, reached by Tab and worked by Space or Enter.
 class PictureButton : public QToolButton {
     Q_OBJECT

@@ -1,5 +1,4 @@
-#include "tests/e2e/InstalledProgram.h"
-#include "tests/e2e/RunningProgram.h"
+#include "tests/e2e/MenuSteps.h"
 
 #include <gtest/gtest.h>
 
@@ -11,40 +10,6 @@ const QString PathFileName = QStringLiteral("GdWlPath.cfg");
 const QString LockLabel = QStringLiteral("lblLocked");
 const QString ClosedLock = QStringLiteral("imgLocked");
 const QString OpenLock = QStringLiteral("imgUnlocked");
-
-EditionNames NamesOf(const std::string& edition) {
-    return edition == "french" ? FrenchNames() : EnglishNames();
-}
-
-QByteArray EditionGolden(const InstalledProgram& installed, const char* state) {
-    return Golden(QStringLiteral("%1-%2.cfg").arg(installed.Edition.Component, QString::fromLatin1(state)));
-}
-
-/// Starts the program and gets past the message about the missing printer.
-std::unique_ptr<RunningProgram> StartToMenu(const InstalledProgram& installed, const QStringList& environment = {}) {
-    auto program = std::make_unique<RunningProgram>(installed.Folder(), installed.Edition.Executable, environment);
-    program->Press(installed.Edition.PrinterTitle, QStringLiteral("Return"));
-    program->AwaitWindow(installed.Edition.MenuTitle);
-    return program;
-}
-
-/// Waits for both configuration files to hold the bytes; on failure shows what they hold instead.
-void AwaitBothFiles(RunningProgram& program, const InstalledProgram& installed, const QByteArray& expected) {
-    try {
-        program.Await(QStringLiteral("both files to be saved"), [&](const SeenScreen&) {
-            return installed.Read(Older) == expected && installed.Read(Newer) == expected;
-        });
-    } catch (const std::exception& failure) {
-        ADD_FAILURE() << failure.what();
-    }
-    EXPECT_EQ(installed.Read(Older).toStdString(), expected.toStdString());
-    EXPECT_EQ(installed.Read(Newer).toStdString(), expected.toStdString());
-}
-
-void ExitByKeys(RunningProgram& program, const InstalledProgram& installed) {
-    program.Press(installed.Edition.MenuTitle, installed.Edition.ExitKeys);
-    EXPECT_EQ(program.AwaitEnd(), 0);
-}
 
 class EachEdition : public testing::TestWithParam<std::string> {
 protected:

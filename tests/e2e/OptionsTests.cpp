@@ -1,144 +1,98 @@
-#include "tests/e2e/InstalledProgram.h"
-#include "tests/e2e/RunningProgram.h"
-#include "tests/e2e/Screen.h"
+#include "tests/e2e/MenuSteps.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-const QString Older = QStringLiteral("GW_v11_PRG.CFG");
 const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
+const QString MailServer = QStringLiteral("txtSMTP");
 
-/// A program folder with the folders of a gradebook on the drive g:, and General Options open in the program.
-class Options {
-public:
-    explicit Options(const EditionNames& edition) : Installed(edition), Title(edition.OptionsTitle) {
-        for (const char* folder : {"network/marks/2016", "network/backup", "network/photos", "network/html"}) {
-            Installed.MakeFolder(QString::fromUtf8(folder));
-        }
-        Installed.Write(QStringLiteral("drives.conf"), "G=" + Installed.Folder().toUtf8() + "/network\n");
-        Installed.Write(Newer, State("options-start"));
-        Program = std::make_unique<RunningProgram>(Installed.Folder(), edition.Executable);
-        Program->Press(edition.PrinterTitle, QStringLiteral("Return"));
-        Program->Press(edition.MenuTitle, QStringLiteral("alt+g"));
-        Program->AwaitWindow(Title);
-    }
+/// The bytes with folders that every machine has, or General Options would begin with a message about them.
+QByteArray WithFolders(QByteArray bytes) {
+    return bytes
+        .replace("c:\\donn\xE9"
+                 "es\\marks, 2016",
+                 "c:\\tmp")
+        .replace("c:\\backup", "c:\\var");
+}
 
-    QByteArray State(const char* state) const {
-        return Golden(QStringLiteral("%1-%2.cfg").arg(Installed.Edition.Component, QString::fromUtf8(state)));
-    }
-    void Panel(int panel) {
-        Click(QStringLiteral("cmdSetup(%1)").arg(panel));
-        Program->AwaitControl(Title, QStringLiteral("p3dSetup(%1)").arg(panel), QStringLiteral("to show"),
-                              [](const auto& seen) { return seen.Visible; });
-    }
-    void Click(const QString& control) { Program->Click(Title, control); }
-    void Press(const char* chord) { Program->Press(Title, QString::fromUtf8(chord)); }
-    void Enter(const char* box, const char* text) {
-        Program->Enter(Title, QString::fromUtf8(box), QString::fromUtf8(text));
-        Press("Tab");
-    }
-    void Check(const char* option) {
-        Click(QString::fromUtf8(option));
-        Program->AwaitControl(Title, QString::fromUtf8(option), QStringLiteral("to be chosen"),
-                              [](const auto& seen) { return seen.Checked; });
-    }
-    void AwaitText(const char* control, const char* text) {
-        Program->AwaitText(Title, QString::fromUtf8(control), QString::fromUtf8(text));
-    }
-    void AwaitMenu() { Program->AwaitWindow(Installed.Edition.MenuTitle); }
-    void AnswerFileDialog(const char* title, const QString& nativeName) {
-        Program->AwaitWindow(QString::fromUtf8(title));
-        TypeText(nativeName);
-        PressKey(QStringLiteral("Return"));
-        Program->AwaitWindow(Title);
-    }
+/// What Save of General Options makes of the unlocked file once the date format is 3 and the mail server typed.
+QByteArray Saved(const InstalledProgram& installed, const QByteArray& mailServer) {
+    return WithFolders(EditionGolden(installed, "unlocked"))
+        .replace("[Bar Code Attendance]\r\n 1 \r\n 0 \r\n", "[Bar Code Attendance]\r\n 1 \r\n 1 \r\n")
+        .replace("[Date Format]\r\n 6 \r\n", "[Date Format]\r\n 3 \r\n")
+        .replace("smtp.\xE9"
+                 "cole.example",
+                 mailServer);
+}
 
-    InstalledProgram Installed;
-    const QString Title;
+class EditionOptions : public testing::TestWithParam<std::string> {
+protected:
+    InstalledProgram Installed{NamesOf(GetParam())};
+    const QString Menu = Installed.Edition.MenuTitle;
+    const QString Options = Installed.Edition.OptionsTitle;
     std::unique_ptr<RunningProgram> Program;
+
+    void OpenOptions() {
+        Installed.Write(Newer, WithFolders(Golden(QStringLiteral("start.cfg"))));
+        Program = StartToMenu(Installed);
+        Program->Press(Menu, QStringLiteral("alt+g"));
+        Program->AwaitWindow(Options);
+    }
+
+    void ChooseDateFormatThree() {
+        Program->Click(Options, QStringLiteral("cmdSetup(1)"));
+        Program->Click(Options, QStringLiteral("optDFormat(3)"));
+        Program->AwaitControl(Options, QStringLiteral("optDFormat(3)"), QStringLiteral("to be chosen"),
+                              [](const auto& option) { return option.Checked; });
+    }
+
+    void TypeMailServer(const QString& name) {
+        Program->Click(Options, QStringLiteral("cmdSetup(2)"));
+        Program->Enter(Options, MailServer, name);
+    }
 };
 
-class OptionsOfEdition : public testing::TestWithParam<std::string> {};
-
-INSTANTIATE_TEST_SUITE_P(Editions, OptionsOfEdition, testing::Values("english", "french"),
+INSTANTIATE_TEST_SUITE_P(Editions, EditionOptions, testing::Values("english", "french"),
                          [](const auto& tested) { return tested.param; });
 
-TEST_P(OptionsOfEdition, ChangesOnEveryPanelReachTheFilesToTheByte) {
-    Options options(GetParam() == "french" ? FrenchNames() : EnglishNames());
-    options.AwaitText("lblDfltPath", "g:\\marks");
-    options.Click(QStringLiteral("dirHDir"));
-    options.Press("End");
-    options.Press("Return");
-    options.AwaitText("lblDfltPath", "g:\\marks\\2016");
-    options.Click(QStringLiteral("cmdBkupPathClear"));
-    options.AwaitText("lblBkupPath", "");
-    options.Click(QStringLiteral("cmdMugClear"));
-    options.AwaitText("lblMugShotPath", "");
+TEST_P(EditionOptions, SavesADateFormatAndAMailServerToTheByte) {
+    OpenOptions();
+    ChooseDateFormatThree();
+    const QString today = Program->AwaitWindow(Options).Control(QStringLiteral("optDFormat(3)")).Text;
+    TypeMailServer(QStringLiteral("  mail.board.example "));
+    Program->Press(Options, Installed.Edition.SaveKeys);
+    Program->AwaitNoWindow(Options);
+    AwaitBothFiles(*Program, Installed, Saved(Installed, "mail.board.example"));
 
-    options.Panel(1);
-    options.Check("optDFormat(6)");
-    options.Panel(2);
-    options.Enter("txtSMTP", "smtp.school.example");
-    options.Panel(3);
-    options.Enter("txtBCADesc(1)", "Tardy");
-    options.Press("z");
-    options.AwaitText("lblBCCode(1)", "*Z*");
-    options.Check("optBCADflt(0)");
-    options.Panel(4);
-    options.Check("chkHCDialog");
-    options.Check("optThickLine(9)");
-    options.Panel(5);
-    options.Enter("txtHTML_School", "S2");
-    options.Enter("txtHTML_File_Sep1", "x");
-    options.Press("Tab");
-    options.Press("Down");
-    options.AwaitText("lblHTML_FileNameExample", "StudentIDxCourseCode_S2.htm");
-    options.Press(options.Installed.Edition.SaveKeys.toUtf8().constData());
-    options.AwaitMenu();
-
-    const QByteArray changed = options.State("options-changed");
-    EXPECT_EQ(options.Installed.Read(Newer).toStdString(), changed.toStdString());
-    EXPECT_EQ(options.Installed.Read(Older).toStdString(), changed.toStdString());
+    const QString shown = Program->AwaitWindow(Menu).Control(QStringLiteral("lblToday")).Text;
+    EXPECT_TRUE(shown.startsWith(today + QStringLiteral("  ("))) << shown.toStdString();
+    ExitByKeys(*Program, Installed);
+    AwaitBothFiles(*Program, Installed, Saved(Installed, "mail.board.example"));
 }
 
-TEST_P(OptionsOfEdition, SavingAtOnceChangesNothing) {
-    Options options(GetParam() == "french" ? FrenchNames() : EnglishNames());
-    options.Press(options.Installed.Edition.SaveKeys.toUtf8().constData());
-    options.AwaitMenu();
-    EXPECT_EQ(options.Installed.Read(Newer).toStdString(), options.State("options-start").toStdString());
-    EXPECT_EQ(options.Installed.Read(Older).toStdString(), options.State("options-start").toStdString());
+TEST_P(EditionOptions, WritesNothingOnEscape) {
+    OpenOptions();
+    ChooseDateFormatThree();
+    Program->Press(Options, QStringLiteral("Escape"));
+    Program->AwaitNoWindow(Options);
+    Program->AwaitWindow(Menu);
+    EXPECT_EQ(Installed.Read(Newer).toStdString(), WithFolders(Golden(QStringLiteral("start.cfg"))).toStdString());
 }
 
-TEST(OptionsWindow, RefusedTextStopsSaveByItsAccessKey) {
-    Options options(EnglishNames());
-    options.Panel(2);
-    options.Program->Enter(options.Title, QStringLiteral("txtSMTP"), QStringLiteral("a,b"));
-    options.Press("alt+s");
-    options.Program->Press(QStringLiteral("INPUT ERROR"), QStringLiteral("Return"));
-    options.Program->AwaitControl(options.Title, QStringLiteral("txtSMTP"), QStringLiteral("to keep the keyboard"),
-                                  [](const auto& seen) { return seen.Focused; });
-    EXPECT_FALSE(options.Installed.Exists(Older));
-    options.Press("Escape");
-    options.AwaitMenu();
-    EXPECT_FALSE(options.Installed.Exists(Older));
-    EXPECT_EQ(options.Installed.Read(Newer).toStdString(), options.State("options-start").toStdString());
-}
-
-TEST(OptionsWindow, SchemeIsSavedToAFileAndLoadedAgain) {
-    Options options(EnglishNames());
-    const QString file = options.Installed.Folder() + QStringLiteral("/network/new.scm");
-    options.Panel(6);
-    options.Click(QStringLiteral("cmdSaveScheme"));
-    options.AnswerFileDialog("Save Scheme", file);
-    EXPECT_EQ(options.Installed.Read(QStringLiteral("network/new.scm")).toStdString(),
-              Golden(QStringLiteral("default.scm")).toStdString());
-    options.Click(QStringLiteral("cmdClearScheme"));
-    options.AwaitText("txtABCChr(12)", "");
-    options.Click(QStringLiteral("cmdLoadScheme"));
-    options.AnswerFileDialog("Load a Scheme", file);
-    options.AwaitText("txtABCChr(12)", "A+");
-    options.AwaitText("lblABCLow", "For 0 to 49.9% use:");
+TEST_P(EditionOptions, WarnsOfAnAtSignBeforeSavingByAccessKey) {
+    OpenOptions();
+    ChooseDateFormatThree();
+    TypeMailServer(QStringLiteral("office@board.example"));
+    Program->Press(Options, Installed.Edition.SaveKeys);
+    const QString warning = QStringLiteral("SMTP ERROR");
+    Program->AwaitWindow(warning);
+    EXPECT_EQ(Installed.Read(Newer).toStdString(), WithFolders(Golden(QStringLiteral("start.cfg"))).toStdString())
+        << "the box's rule runs before the button acts";
+    Program->Press(warning, QStringLiteral("Return"));
+    Program->AwaitNoWindow(warning);
+    Program->AwaitNoWindow(Options);
+    AwaitBothFiles(*Program, Installed, Saved(Installed, "office@board.example"));
 }
 
 } // namespace

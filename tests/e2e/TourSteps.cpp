@@ -45,7 +45,6 @@ void TourSteps::ToggleLock() {
                       locked ? QStringLiteral("Unlocked") : QStringLiteral("Locked"));
 }
 
-#ifdef TOUR_OPTIONS
 void TourSteps::VisitGeneralOptions() {
     program.Press(edition.MenuTitle, QStringLiteral("alt+g"));
     const QString title = edition.OptionsTitle;
@@ -65,9 +64,6 @@ void TourSteps::VisitGeneralOptions() {
     program.AwaitWindow(edition.MenuTitle);
     TakePicture(edition.MenuTitle, QStringLiteral("main-menu-new-date"));
 }
-#else
-void TourSteps::VisitGeneralOptions() {}
-#endif
 
 void TourSteps::ChangeDateFormatAndMailServer(const QString& title) {
     program.Click(title, QStringLiteral("cmdSetup(1)"));
