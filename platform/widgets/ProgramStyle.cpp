@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QPainterPath>
 #include <QStyleOptionGroupBox>
 
 namespace {
@@ -10,6 +11,7 @@ constexpr int TitleTop = 7;
 constexpr int TitleLeft = 13;
 constexpr int TitleGap = 1; // between the title and the card's contents
 constexpr qreal CornerRadius = 5;
+constexpr qreal OutlineShare = 0.45; // of the text's colour: three to one against a dark card
 
 QFont TitleFont(const QWidget* widget) {
     QFont font = widget != nullptr ? widget->font() : QApplication::font();
@@ -26,6 +28,27 @@ QColor Blend(const QColor& one, const QColor& other, qreal share) {
     return QColor::fromRgbF(static_cast<float>(one.redF() * (1 - share) + other.redF() * share),
                             static_cast<float>(one.greenF() * (1 - share) + other.greenF() * share),
                             static_cast<float>(one.blueF() * (1 - share) + other.blueF() * share));
+}
+
+bool IsDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+// Lighter than the window, so that the boxes in it, which are darker, stand out in a dark palette, too.
+QColor CardColor(const QPalette& palette) {
+    return IsDark(palette) ? Blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.05)
+                           : Blend(palette.color(QPalette::Window), palette.color(QPalette::Base), 0.6);
+}
+
+QPainterPath OutlineOf(QStyle::PrimitiveElement element, const QRect& rect) {
+    const QRectF edge = QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    QPainterPath path;
+    if (element == QStyle::PE_IndicatorRadioButton) {
+        path.addEllipse(edge);
+    } else {
+        path.addRoundedRect(edge, 2, 2);
+    }
+    return path;
 }
 
 } // namespace
@@ -45,12 +68,31 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.25));
-    painter->setBrush(Blend(palette.color(QPalette::Window), palette.color(QPalette::Base), 0.6));
+    painter->setBrush(CardColor(palette));
     painter->drawRoundedRect(QRectF(box->rect).adjusted(0.5, 0.5, -0.5, -0.5), CornerRadius, CornerRadius);
     painter->setFont(TitleFont(widget));
     painter->setPen(palette.color(box->state.testFlag(State_Enabled) ? QPalette::Active : QPalette::Disabled,
                                   QPalette::WindowText));
     painter->drawText(TitleRect(*box, widget), Qt::AlignLeading | Qt::AlignVCenter | Qt::TextHideMnemonic, box->text);
+    painter->restore();
+}
+
+// The plain style outlines boxes and marks darker than the window; where that is dark, nothing is seen of it.
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool outlined = element == PE_IndicatorRadioButton || element == PE_IndicatorCheckBox ||
+                          element == PE_FrameLineEdit || element == PE_Frame;
+    const bool focused = element == PE_FrameLineEdit && option->state.testFlag(State_HasFocus);
+    if (!outlined || focused || !IsDark(option->palette) || baseStyle()->name() != QLatin1String("fusion")) {
+        return;
+    }
+    const QPalette& palette = option->palette;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), OutlineShare));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawPath(OutlineOf(element, option->rect));
     painter->restore();
 }
 

@@ -1,5 +1,8 @@
 #include "tests/screens/Clipped.h"
 
+#include "options/PanelButton.h"
+#include "platform/widgets/ProgramStyle.h"
+
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QComboBox>
@@ -21,6 +24,12 @@ QSize NeededByLabel(const QLabel& label) {
     return label.minimumSizeHint();
 }
 
+// The text of a panel's button may take two lines beside its bar.
+QSize NeededByPanelButton(const PanelButton& button) {
+    const QRect room(0, 0, button.width() - 2 * Spacing::Gap, button.height());
+    return button.fontMetrics().boundingRect(room, Qt::TextWordWrap, button.text()).size();
+}
+
 QSize NeededByTitle(const QGroupBox& box) {
     QFont bold = box.font();
     bold.setBold(true);
@@ -35,6 +44,9 @@ QSize Needed(const QWidget& control) {
     }
     if (const auto* box = qobject_cast<const QGroupBox*>(&control)) {
         return NeededByTitle(*box);
+    }
+    if (const auto* button = qobject_cast<const PanelButton*>(&control)) {
+        return NeededByPanelButton(*button);
     }
     if (qobject_cast<const QAbstractButton*>(&control) != nullptr ||
         qobject_cast<const QComboBox*>(&control) != nullptr) {

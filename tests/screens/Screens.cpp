@@ -1,16 +1,12 @@
 /// Takes a picture of every window and panel: screens english|french light|dark PICTURE-FOLDER. The scale is that of
 /// QT_SCALE_FACTOR. Ends with 0 when every picture was taken and no window showed a message.
 
-#include "app/frmMaster_SU.h"
-#include "options/frmSetUp_SU.h"
-#include "platform/widgets/Pictures.h"
 #include "platform/widgets/ProgramStyle.h"
 #include "tests/screens/Pictures.h"
-#include "tests/screens/Scene.h"
+#include "tests/screens/Windows.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QPushButton>
 #include <QStyle>
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -37,38 +33,6 @@ QPalette DarkPalette() {
     return palette;
 }
 
-void TakeMenu(Edition edition, PictureTaker& pictures) {
-    Scene scene(edition);
-    scene.AddTransferProgram();
-    frmMaster_SU menu({});
-    menu.Form_Load(edition, ProgramFolder);
-    pictures.Take(menu, "menu");
-    menu.fraGeneral->imgUnlocked->click();
-    pictures.Take(menu, "menu-locked");
-}
-
-void TakeMenuWithoutTransfer(Edition edition, PictureTaker& pictures) {
-    Scene scene(edition);
-    frmMaster_SU menu({});
-    menu.Form_Load(edition, ProgramFolder);
-    pictures.Take(menu, "menu-without-transfer");
-}
-
-void TakeGeneralOptions(Edition edition, PictureTaker& pictures) {
-    Scene scene(edition);
-    frmSetUp_SU window;
-    const char* panels[] = {"paths", "dates", "mail", "bar-codes", "printer", "html-report", "grade-schemes"};
-    int index = 0;
-    for (const char* panel : panels) {
-        auto* button = window.findChild<QPushButton*>(QStringLiteral("cmdSetup(%1)").arg(index++));
-        if (button == nullptr) {
-            throw std::runtime_error(std::string("There is no button for the panel ") + panel);
-        }
-        button->click();
-        pictures.Take(window, (std::string("general-options-") + panel).c_str());
-    }
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -90,8 +54,10 @@ int main(int argc, char** argv) {
     PictureTaker pictures(arguments[3], QStringLiteral("%1-%2-%3").arg(arguments[1], arguments[2]).arg(percent));
     try {
         TakeMenu(edition, pictures);
-        TakeMenuWithoutTransfer(edition, pictures);
         TakeGeneralOptions(edition, pictures);
+        TakeImport(edition, pictures);
+        TakeAdmin(edition, pictures);
+        TakeTransfer(edition, pictures);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return 1;

@@ -157,4 +157,48 @@ TEST(ProgramStyles, FramesHoldTheirTitleInside) {
     EXPECT_GT(frame.grab().toImage().pixelColor(100, 0).alpha(), 0);
 }
 
+qreal Luminance(const QColor& color) {
+    const auto linear = [](qreal part) { return part <= 0.04045 ? part / 12.92 : qPow((part + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+qreal Contrast(const QColor& one, const QColor& other) {
+    const qreal light = qMax(Luminance(one), Luminance(other));
+    const qreal dark = qMin(Luminance(one), Luminance(other));
+    return (light + 0.05) / (dark + 0.05);
+}
+
+// The greatest contrast of the pixels of a part of a picture with one colour.
+qreal GreatestContrast(const QImage& picture, const QRect& part, const QColor& around) {
+    qreal greatest = 1;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x) {
+            greatest = qMax(greatest, Contrast(picture.pixelColor(x, y), around));
+        }
+    }
+    return greatest;
+}
+
+TEST(ProgramStyles, EmptyBoxesAndMarksStandOutOfACardInADarkPalette) {
+    QGroupBox card;
+    QPalette dark(QColor(0x3a, 0x3a, 0x3c), QColor(0x2b, 0x2b, 0x2d));
+    dark.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x20));
+    card.setPalette(dark);
+    card.resize(300, 200);
+    QRadioButton option(&card);
+    QCheckBox tick(&card);
+    QLineEdit box(&card);
+    QListWidget list(&card);
+    option.setGeometry(20, 20, 30, 24);
+    tick.setGeometry(20, 50, 30, 24);
+    box.setGeometry(20, 80, 100, 24);
+    list.setGeometry(20, 110, 100, 60);
+    card.setFocus();
+    const QImage picture = card.grab().toImage();
+    const QColor around = picture.pixelColor(200, 40);
+    for (const QWidget* control : std::initializer_list<QWidget*>{&option, &tick, &box, &list}) {
+        EXPECT_GE(GreatestContrast(picture, control->geometry(), around), 3) << control->metaObject()->className();
+    }
+}
+
 } // namespace

@@ -1,0 +1,106 @@
+#include "tests/screens/Windows.h"
+
+#include "admin/frmAdmin_SU.h"
+#include "app/CFG_2015.h"
+#include "app/frmMaster_SU.h"
+#include "import/frmImport_SU.h"
+#include "options/frmSetUp_SU.h"
+#include "platform/widgets/Pictures.h"
+#include "tests/screens/Scene.h"
+#include "transfer/frmGWT_SU.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <stdexcept>
+
+namespace {
+
+template <typename Control>
+Control& ControlOf(const QWidget& window, const QString& name) {
+    auto* control = window.findChild<Control*>(name);
+    if (control == nullptr) {
+        throw std::runtime_error("There is no control " + name.toStdString());
+    }
+    return *control;
+}
+
+void TakeAdminWith(bool frenchCaptions, const char* name, PictureTaker& pictures) {
+    frmAdmin_SU window;
+    if (frenchCaptions) {
+        window.SpeakFrench_Admin();
+    }
+    ControlOf<QLineEdit>(window, QStringLiteral("txtAdminTest")).setText(QStringLiteral("ENG2D1-02"));
+    window.TestCourseCode();
+    pictures.Take(window, name);
+}
+
+void TakeTransferWith(Scene& scene, const char* file, bool frenchCaptions, const char* name, PictureTaker& pictures) {
+    scene.Machine.Write(ProgramFolder + QStringLiteral("\\GWT10_PRG.CFG"), HandWritten(file));
+    frmGWT_SU window;
+    if (frenchCaptions) {
+        window.SpeakFrench_GWT();
+    }
+    pictures.Take(window, name);
+}
+
+} // namespace
+
+void TakeMenu(Edition edition, PictureTaker& pictures) {
+    Scene scene(edition);
+    scene.AddTransferProgram();
+    frmMaster_SU menu({});
+    menu.Form_Load(edition, ProgramFolder);
+    pictures.Take(menu, "menu");
+    menu.fraGeneral->imgUnlocked->click();
+    pictures.Take(menu, "menu-locked");
+    scene.Machine.Remove(ProgramFolder + u'\\' + TransferExeName);
+    frmMaster_SU smaller({});
+    smaller.Form_Load(edition, ProgramFolder);
+    pictures.Take(smaller, "menu-without-transfer");
+}
+
+void TakeGeneralOptions(Edition edition, PictureTaker& pictures) {
+    const Scene scene(edition);
+    frmSetUp_SU window;
+    const char* panels[] = {"paths", "dates", "mail", "bar-codes", "printer", "html-report", "grade-schemes"};
+    int index = 0;
+    for (const char* panel : panels) {
+        ControlOf<QPushButton>(window, QStringLiteral("cmdSetup(%1)").arg(index++)).click();
+        pictures.Take(window, (std::string("general-options-") + panel).c_str());
+    }
+}
+
+void TakeImport(Edition edition, PictureTaker& pictures) {
+    Scene scene(edition);
+    scene.Machine.Write(ProgramFolder + QStringLiteral("\\UpdField.cfg"), HandWritten("import/UpdField-three.cfg"));
+    frmImport_SU window;
+    pictures.Take(window, "import");
+    if (edition == Edition::French) {
+        frmImport_SU french;
+        french.SpeakFrench_ImportSU();
+        pictures.Take(french, "import-french-captions");
+    }
+    ProgramConfig.ImportStudentsFile.clear();
+    scene.Machine.Screen.AnswerFile(QString());
+    frmImport_SU empty;
+    pictures.Take(empty, "import-without-file");
+}
+
+void TakeAdmin(Edition edition, PictureTaker& pictures) {
+    const Scene scene(edition);
+    TakeAdminWith(false, "admin", pictures);
+    if (edition == Edition::French) {
+        TakeAdminWith(true, "admin-french-captions", pictures);
+    }
+}
+
+void TakeTransfer(Edition edition, PictureTaker& pictures) {
+    Scene scene(edition);
+    scene.Machine.MakeFolder(QString::fromUtf8("c:\\reports\\été 2016"));
+    TakeTransferWith(scene, "transfer/secondary.cfg", false, "transfer", pictures);
+    TakeTransferWith(scene, "transfer/windsor.cfg", false, "transfer-work-habits", pictures);
+    if (edition == Edition::French) {
+        TakeTransferWith(scene, "transfer/secondary.cfg", true, "transfer-french-captions", pictures);
+        TakeTransferWith(scene, "transfer/windsor.cfg", true, "transfer-work-habits-french-captions", pictures);
+    }
+}
