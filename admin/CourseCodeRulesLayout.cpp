@@ -1,4 +1,5 @@
 #include "admin/CourseCodeRulesPanel.h"
+#include "options/PathLabel.h"
 #include "platform/widgets/DropDownList.h"
 #include "platform/widgets/Pictures.h"
 #include "platform/widgets/ProgramStyle.h"
@@ -18,7 +19,7 @@ constexpr int LongestText = 255; // characters; far more than any code, and stil
 constexpr int RowGap = 4;        // logical pixels, as all sizes here
 constexpr int WidthOfSplitBox = 56;
 constexpr int WidthOfConversionBox = 64;
-constexpr int WordGap = 6; // between the words of a sentence around the lists
+constexpr int WordGap = 5; // between the words of a sentence around the lists
 constexpr int ConversionColumns = 2;
 
 template <typename Control>
@@ -43,13 +44,9 @@ QLabel* MakeWrappedLabel(const char* name, QWidget* parent) {
     return label;
 }
 
-// A field that shows a part of the sample.
-QLabel* MakeResult(const char* name, QWidget* parent) {
-    QLabel* label = MakeLabel(QString::fromUtf8(name), parent);
-    label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    label->setMinimumWidth(WidthOfConversionBox);
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    return label;
+// A field for a part of the sample; what does not fit is left out in the middle and told by the tool tip.
+PathLabel* MakeResult(const char* name, QWidget* parent) {
+    return Named(new PathLabel(parent), QString::fromUtf8(name));
 }
 
 TextBox* MakeBox(const QString& name, QWidget* parent) {
@@ -180,7 +177,7 @@ QWidget* CourseCodeRulesPanel::MakeTestFrame() {
     auto* frame = Named(new QGroupBox(this), QStringLiteral("fraTest"));
     auto* grid = new QGridLayout(frame);
     grid->setContentsMargins(Spacing::Margin, RowGap, Spacing::Margin, Spacing::Gap);
-    grid->setHorizontalSpacing(Spacing::Gap);
+    grid->setHorizontalSpacing(RowGap);
     grid->setVerticalSpacing(RowGap);
     txtAdminTest = MakeBox(QStringLiteral("txtAdminTest"), frame);
     lblCourseTest = MakeResult("lblCourseTest", frame);

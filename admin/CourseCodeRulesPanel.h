@@ -8,6 +8,7 @@
 
 class ClickableLabel;
 class DropDownList;
+class PathLabel;
 class QCheckBox;
 class QGridLayout;
 class QLabel;
@@ -52,9 +53,9 @@ private:
     std::array<TextBox*, EditedConversionRows> txtRule_GSymbol{};
     std::array<TextBox*, EditedConversionRows> txtRule_GActual{};
     TextBox* txtAdminTest = nullptr;
-    QLabel* lblCourseTest = nullptr;
-    QLabel* lblClassTest = nullptr;
-    QLabel* lblGradeTest = nullptr;
+    PathLabel* lblCourseTest = nullptr;
+    PathLabel* lblClassTest = nullptr;
+    PathLabel* lblGradeTest = nullptr;
 
     // CourseCodeRulesLayout.cpp
     QWidget* MakeRuleRows();

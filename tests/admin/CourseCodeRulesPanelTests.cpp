@@ -57,6 +57,15 @@ TEST_F(AdminWindow, SplitsTheSampleWhenItsBoxIsLeft) {
     EXPECT_EQ(Box("txtAdminTest")->selectedText(), QStringLiteral("ENG1D1-01"));
 }
 
+TEST_F(AdminWindow, ALongPartIsToldByItsToolTip) {
+    Open();
+    List("cboRule_CourseLength")->setCurrentIndex(20);
+    Type("txtAdminTest", "abcdefghijklmnopqrstuvwxyz");
+    Tab();
+    EXPECT_EQ(Label("lblCourseTest"), QStringLiteral("ABCDEFGHIJKLMNOPQRST"));
+    EXPECT_EQ(Get<QLabel>("lblCourseTest")->toolTip(), QStringLiteral("ABCDEFGHIJKLMNOPQRST"));
+}
+
 TEST_F(AdminWindow, ABlankSampleIsLeftAlone) {
     Open();
     Type("txtAdminTest", "   ");
@@ -179,6 +188,16 @@ TEST_F(AdminWindow, TouchingAConversionRowSelectsConversion) {
     Open();
     Box("txtRule_GSymbol(0)")->setFocus(Qt::TabFocusReason);
     EXPECT_TRUE(Get<QRadioButton>("optRule_GradeConv(0)")->isChecked()); // the keyboard only passes through
+}
+
+TEST_F(AdminWindow, ABadTextElsewhereKeepsARowFromBeingTouched) {
+    Open();
+    Type("txtSplitChar", ",");
+    machine.Screen.Answer(MessageAnswer::Ok);
+    Click("txtRule_GSymbol(0)");
+    EXPECT_EQ(machine.Screen.Messages.size(), 1U);
+    EXPECT_EQ(window->focusWidget(), Box("txtSplitChar"));
+    EXPECT_TRUE(Get<QRadioButton>("optRule_GradeConv(0)")->isChecked());
 }
 
 TEST_F(AdminWindow, TheLabelBesideTheOptionSelectsItToo) {

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "tests/e2e/InstalledProgram.h"
+#include "tests/e2e/RunningProgram.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+
+/// A program folder of each edition, and what the tests of the Admin and Transfer windows do over and over.
+class EachBoard : public testing::TestWithParam<std::string> {
+protected:
+    InstalledProgram Installed{GetParam() == "french" ? FrenchNames() : EnglishNames()};
+    const QString Menu = Installed.Edition.MenuTitle;
+    std::unique_ptr<RunningProgram> Program;
+
+    /// Starts the program, gets past the message about the missing printer and opens a window by its access key.
+    void OpenFromMenu(const char* keys, const QString& title) {
+        Program = std::make_unique<RunningProgram>(Installed.Folder(), Installed.Edition.Executable);
+        Program->Press(Installed.Edition.PrinterTitle, QStringLiteral("Return"));
+        Program->Press(Menu, QString::fromLatin1(keys));
+        Program->AwaitWindow(title);
+    }
+
+    /// Presses Tab until the control has the keyboard.
+    void TabTo(const QString& title, const char* control) {
+        const QString name = QString::fromLatin1(control);
+        constexpr int moreThanThereAreControls = 40;
+        for (int tabs = 0; tabs < moreThanThereAreControls; ++tabs) {
+            const SeenWindow seen = Program->AwaitWindow(title);
+            if (seen.Control(name).Focused) {
+                return;
+            }
+            Program->Press(title, QStringLiteral("Tab"));
+            Program->Await(QStringLiteral("the focus to move"), [&](const SeenScreen& screen) {
+                const SeenWindow* window = screen.Window(title);
+                return window != nullptr && FocusOf(*window) != FocusOf(seen);
+            });
+        }
+        ADD_FAILURE() << control << " cannot be reached by Tab";
+    }
+
+    void Type(const QString& title, const char* key, int times = 1) {
+        for (int i = 0; i < times; ++i) {
+            Program->Press(title, QString::fromLatin1(key));
+        }
+    }
+
+    void AwaitText(const QString& title, const char* control, const char* text) {
+        Program->AwaitText(title, QString::fromLatin1(control), QString::fromUtf8(text));
+    }
+
+private:
+    static QString FocusOf(const SeenWindow& window) {
+        for (const SeenControl& control : window.Controls) {
+            if (control.Focused) {
+                return control.Name;
+            }
+        }
+        return {};
+    }
+};
+
+inline std::string EditionOf(const testing::TestParamInfo<std::string>& tested) {
+    return tested.param;
+}
