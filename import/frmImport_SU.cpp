@@ -30,7 +30,7 @@ QPushButton* NewButton(QWidget* parent, const char* name) {
 } // namespace
 
 frmImport_SU::frmImport_SU(QWidget* parent)
-    : QDialog(parent), cmdOpen(NewButton(this, "cmdOpen")), lblFileName(new PathLabel(this)),
+    : QDialog(parent), cmdOpen(NewButton(this, "cmdOpen")), lblFileName(new FileNameLabel(this)),
       preview(new PreviewPanel(this)), pnlUpdateOpts(new UpdateOptionsPanel(this)), pnlDOB(new QGroupBox(this)),
       cboDOB(new DropDownList(pnlDOB)), lblDOBInstr(NewText(pnlDOB, "lblDOBInstr")),
       lblHelp2(NewText(this, "lblHelp2")), cmdSave(NewButton(this, "cmdSave")),

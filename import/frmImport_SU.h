@@ -1,8 +1,8 @@
 #pragma once
 
 #include "import/FieldMatching.h"
+#include "import/FileNameLabel.h"
 #include "import/ImportFile.h"
-#include "import/PathLabel.h"
 #include "import/PreviewPanel.h"
 #include "import/ReadingGuard.h"
 #include "import/UpdateOptionsPanel.h"
@@ -26,7 +26,7 @@ public:
     void SpeakFrench_ImportSU();
 
     QPushButton* cmdOpen;
-    PathLabel* lblFileName; ///< the import file's path, the program's form
+    FileNameLabel* lblFileName; ///< the import file's path, the program's form
     PreviewPanel* preview;
     UpdateOptionsPanel* pnlUpdateOpts;
     QGroupBox* pnlDOB;

@@ -1,4 +1,4 @@
-#include "import/PathLabel.h"
+#include "import/FileNameLabel.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -10,23 +10,23 @@ constexpr int LeastWidth = 100;
 
 } // namespace
 
-PathLabel::PathLabel(QWidget* parent) : QLabel(parent) {
+FileNameLabel::FileNameLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
-QSize PathLabel::minimumSizeHint() const {
+QSize FileNameLabel::minimumSizeHint() const {
     return {LeastWidth, QLabel::minimumSizeHint().height()};
 }
 
-void PathLabel::paintEvent(QPaintEvent* /*event*/) {
+void FileNameLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()));
 }
 
-bool PathLabel::event(QEvent* event) {
+bool FileNameLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && fontMetrics().horizontalAdvance(text()) > contentsRect().width()) {
         QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
                            QStringLiteral("<span>%1</span>").arg(text().toHtmlEscaped()), this);

@@ -3,11 +3,11 @@
 #include <QLabel>
 
 /// A label for a path: what does not fit is left out in the middle and shown as a tool tip; text() stays whole.
-class PathLabel : public QLabel {
+class FileNameLabel : public QLabel {
     Q_OBJECT
 
 public:
-    explicit PathLabel(QWidget* parent = nullptr);
+    explicit FileNameLabel(QWidget* parent = nullptr);
 
     QSize minimumSizeHint() const override;
 
