@@ -104,7 +104,7 @@ TEST(SplitImportRecordTest, AgreesWithThePlainRuleOnRandomRecords) {
     for (int round = 0; round < 20000; ++round) {
         QByteArray record;
         const int wordSize = static_cast<int>(random() % 12) + 2; // with or without tabs
-        for (unsigned length = random() % 60; length > 0; --length) {
+        for (auto length = random() % 60; length > 0; --length) {
             record.append(letters[random() % static_cast<unsigned>(wordSize)]);
         }
         ASSERT_EQ(SplitPlainly(QString::fromLatin1(record)), SplitImportRecord(record).Fields) << record.constData();
