@@ -87,6 +87,7 @@ void frmImport_SU::ConnectControls() {
     connect(preview->cmdClearAll, &QPushButton::clicked, this, &frmImport_SU::cmdClearAll_Click);
     connect(preview->grdImport, &ImportGrid::FieldDropped, this, &frmImport_SU::grdImport_DragDrop);
     connect(cboDOB, &QComboBox::currentIndexChanged, this, &frmImport_SU::cboDOB_Click);
+    connect(cboDOB, &QComboBox::activated, this, &frmImport_SU::cboDOB_Click); // the same entry chosen again
 
     FieldListPanel* list = preview->pnlFieldList;
     connect(list, &FieldListPanel::Pressed, this, &frmImport_SU::lblFieldList_MouseDown);
