@@ -1,6 +1,6 @@
 #include "import/FileBytes.h"
 
-#include "import/LineIndex.h"
+#include "import/ByteScans.h"
 
 #include <algorithm>
 #include <cstring>

@@ -16,7 +16,7 @@ constexpr int NumberWidth = 20;
 constexpr int TextWidth = 412;
 constexpr int MatchWidth = 169;
 constexpr int TextMargin = 3;
-constexpr int LongestDrawn = 400; // characters; no column shows more
+constexpr int LongestDrawn = 160; // characters; no column shows more
 constexpr QChar ShownControl(u'\u00B7');
 
 QString Drawn(const QString& text) {

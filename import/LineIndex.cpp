@@ -1,5 +1,7 @@
 #include "import/LineIndex.h"
 
+#include "import/ByteScans.h"
+
 #include <algorithm>
 
 LineIndex::LineIndex(std::int64_t spacingToUse, std::size_t markLimitToUse)

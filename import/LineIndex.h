@@ -3,10 +3,6 @@
 #include <cstdint>
 #include <vector>
 
-/// How many bytes of [bytes, bytes + size) end a line: each LF that does not follow a CR, and each CR. `before` is the
-/// byte in front of them.
-std::int64_t CountLineEnds(const char* bytes, std::int64_t size, char before);
-
 /// Counts the lines of a file given piece by piece (ended by CR LF, LF or CR, mixed; the last one may lack its end) and
 /// remembers where some of them start, so that any line is found without reading the file from its start.
 class LineIndex {

@@ -1,29 +1,27 @@
 #include "import/Utf8Suspicion.h"
 
+#include "import/ByteScans.h"
+
 #include <array>
-#include <cstring>
 
 namespace {
 
 constexpr std::array<unsigned char, 3> ByteOrderMark = {0xEF, 0xBB, 0xBF};
 constexpr int EnoughCharacters = 1000;
+constexpr std::int64_t BlockStep = 4096; // bytes looked at singly before blocks are tried again
 constexpr unsigned char LowestTrailing = 0x80;
 constexpr unsigned char HighestTrailing = 0xBF;
-
-bool IsAscii(const char* bytes) {
-    std::uint64_t eight = 0;
-    std::memcpy(&eight, bytes, sizeof eight);
-    return (eight & 0x8080808080808080U) == 0;
-}
 
 } // namespace
 
 void Utf8Suspicion::Add(const char* bytes, std::int64_t size) {
     std::int64_t place = 0;
     while (place < size && judgement == Judgement::Open) {
-        if (missing == 0 && size - place >= 8 && IsAscii(bytes + place)) {
-            place += 8;
-            continue;
+        if (missing == 0 && place % BlockStep == 0) {
+            place += AsciiAtStart(bytes + place, size - place);
+            if (place == size) {
+                break;
+            }
         }
         const auto byte = static_cast<unsigned char>(bytes[place]);
         if (before + place == markBytes && markBytes < 3 &&

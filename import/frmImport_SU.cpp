@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr QSize WindowSize(800, 600);
 constexpr int SmallGap = 6;
 
 QLabel* NewText(QWidget* parent, const char* name) {
@@ -30,12 +29,11 @@ QPushButton* NewButton(QWidget* parent, const char* name) {
 } // namespace
 
 frmImport_SU::frmImport_SU(QWidget* parent)
-    : QDialog(parent), cmdOpen(NewButton(this, "cmdOpen")), lblFileName(new PathLabel(this)),
+    : OptionsWindow("frmImport_SU", parent), cmdOpen(NewButton(this, "cmdOpen")), lblFileName(new PathLabel(this)),
       preview(new PreviewPanel(this)), pnlUpdateOpts(new UpdateOptionsPanel(this)), pnlDOB(new QGroupBox(this)),
       cboDOB(new DropDownList(pnlDOB)), lblDOBInstr(NewText(pnlDOB, "lblDOBInstr")),
       lblHelp2(NewText(this, "lblHelp2")), cmdSave(NewButton(this, "cmdSave")),
       cmdExitImport(NewButton(this, "cmdExitImport")) {
-    setObjectName(QStringLiteral("frmImport_SU"));
     lblFileName->setObjectName(QStringLiteral("lblFileName"));
     pnlDOB->setObjectName(QStringLiteral("pnlDOB"));
     cboDOB->setObjectName(QStringLiteral("cboDOB"));
@@ -58,7 +56,6 @@ void frmImport_SU::BuildLayout() {
     rows->addWidget(preview);
     rows->addWidget(pnlUpdateOpts, 1);
     rows->addLayout(BuildBottom());
-    resize(WindowSize);
 }
 
 QLayout* frmImport_SU::BuildBottom() {
@@ -90,6 +87,7 @@ void frmImport_SU::ConnectControls() {
     connect(preview->cmdClearAll, &QPushButton::clicked, this, &frmImport_SU::cmdClearAll_Click);
     connect(preview->grdImport, &ImportGrid::FieldDropped, this, &frmImport_SU::grdImport_DragDrop);
     connect(cboDOB, &QComboBox::currentIndexChanged, this, &frmImport_SU::cboDOB_Click);
+    connect(cboDOB, &QComboBox::activated, this, &frmImport_SU::cboDOB_Click); // the same entry chosen again
 
     FieldListPanel* list = preview->pnlFieldList;
     connect(list, &FieldListPanel::Pressed, this, &frmImport_SU::lblFieldList_MouseDown);
@@ -144,7 +142,7 @@ void frmImport_SU::Form_Activate() {
 }
 
 void frmImport_SU::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
+    OptionsWindow::showEvent(event);
     if (!event->spontaneous()) {
         QMetaObject::invokeMethod(this, &frmImport_SU::Form_Activate, Qt::QueuedConnection);
     }
@@ -155,7 +153,7 @@ void frmImport_SU::reject() {
         stopAsked = true;
         return;
     }
-    QDialog::reject();
+    OptionsWindow::reject();
 }
 
 void frmImport_SU::closeEvent(QCloseEvent* event) {
@@ -165,5 +163,5 @@ void frmImport_SU::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    QDialog::closeEvent(event);
+    OptionsWindow::closeEvent(event);
 }

@@ -1,21 +1,21 @@
 #pragma once
 
 #include "import/FieldMatching.h"
+#include "platform/widgets/PathLabel.h"
 #include "import/ImportFile.h"
 #include "import/PreviewPanel.h"
 #include "import/ReadingGuard.h"
 #include "import/UpdateOptionsPanel.h"
 #include "platform/widgets/Captions.h"
 #include "platform/widgets/DropDownList.h"
-#include "platform/widgets/PathLabel.h"
+#include "platform/widgets/OptionsWindow.h"
 
-#include <QDialog>
 #include <QPointer>
 #include <memory>
 
 /// The import file setup: shows the student data file record by record and lets the administrator match its columns
 /// to the gradebook's fields. Save writes UpdField.cfg beside the file, and the configuration files.
-class frmImport_SU : public QDialog {
+class frmImport_SU : public OptionsWindow {
     Q_OBJECT
 
 public:

@@ -216,6 +216,42 @@ TEST_F(ConfigFiles, WithoutACopyADamagedFileIsNotReplaced) {
     EXPECT_EQ(Disk.Names(ProgramFolder), QStringList({QStringLiteral("GW_v12_PRG.CFG")}));
 }
 
+// Whatever look at the disk fails in passing while the program starts, the settings of the file are still there after
+// the save that ends the program: in a configuration file or in a copy beside it.
+TEST_F(ConfigFiles, APassingErrorAtTheStartLosesNothing) {
+    for (const QString& only : {Older, Newer}) {
+        for (int call = 1; call <= 20; ++call) {
+            FaultyCalls calls;
+            TestFolder disk(calls);
+            disk.Write(only, EveryFieldFile);
+            SetDefaultSettings();
+            calls.FailCall(call, EIO);
+            LocateProgramConfig();
+            disk.Screen.Answer(MessageAnswer::Ok); // a save that cannot keep the old file says so
+            disk.Screen.Answer(MessageAnswer::Ok);
+            SaveProgramConfig();
+            bool kept = false;
+            for (const QString& name : disk.Names(ProgramFolder)) {
+                kept = kept || disk.Read(ProgramFolder + QStringLiteral("\\") + name) == EveryFieldFile;
+            }
+            EXPECT_TRUE(kept) << only.toStdString() << ", call " << call;
+            while (disk.Screen.Messages.size() < 2) {
+                disk.Screen.ShowMessage({}); // an answer that was not needed
+            }
+        }
+    }
+}
+
+TEST_F(ConfigFiles, AFileOfALaterVersionIsCopied) {
+    const QByteArray later = QByteArray(EveryFieldFile).replace(" 14 ", " 15 ") + "\"\"\r\n\"[New]\"\r\n\"x\"\r\n";
+    Disk.Write(Newer, later);
+    Locate();
+    EXPECT_EQ(ProgramConfig, EveryField());
+    SaveProgramConfig();
+    EXPECT_EQ(Disk.Read(Newer), EveryFieldFile);
+    EXPECT_EQ(Disk.Read(Newer + QStringLiteral(".damaged-20160307-093000")), later);
+}
+
 TEST_F(ConfigFiles, AFileThatCannotBeReadIsNotReplaced) {
     Disk.Write(Newer, EveryFieldFile);
     Calls.FailAll(FaultyCalls::Kind::OpenForReading, EACCES);

@@ -113,6 +113,17 @@ TEST_F(Menu, EveryWayToToggleTheLockWritesBothFiles) {
     EXPECT_GE(Disk.Screen.PendingEventRounds, 6) << "the new picture is painted before the files are written";
 }
 
+TEST_F(Menu, AStrayOrHeldEnterDoesNotWorkTheLock) {
+    Start();
+    EXPECT_EQ(Window->focusWidget(), The<QPushButton>("cmdGeneral"));
+    auto* lock = The<QToolButton>("imgLocked");
+    lock->setFocus();
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+    QApplication::sendEvent(lock, &held);
+    ExpectLock(true);
+    EXPECT_EQ(Disk.Names(Folder), QStringList());
+}
+
 TEST_F(Menu, OnlyTheLeftButtonTogglesByTheLabel) {
     Start();
     QTest::mouseClick(The<QLabel>("lblLocked"), Qt::RightButton);

@@ -206,6 +206,43 @@ TEST_F(TextBoxes, AMessageBoxOfTheRuleDoesNotRunItAgain) {
     EXPECT_EQ(RuleRuns, 1);
 }
 
+// The message has taken the focus away when the press goes on; it must not act all the same.
+TEST_F(TextBoxes, APressThatARuleRefusedWithAMessageDoesNotAct) {
+    First.SetLostFocusRule([this] {
+        ++RuleRuns;
+        QMessageBox box(&Window);
+        QTimer::singleShot(0, &box, &QDialog::accept);
+        box.exec();
+        return false;
+    });
+    QTest::mousePress(&Save, Qt::LeftButton);
+    EXPECT_FALSE(Save.isDown());
+    EXPECT_EQ(RuleRuns, 1);
+    QTest::mouseRelease(&Save, Qt::LeftButton);
+    EXPECT_EQ(Saves, 0);
+}
+
+TEST_F(TextBoxes, TypingAfterTheRuleRanMakesItRunAgain) {
+    QTest::mouseClick(&Label, Qt::LeftButton);
+    EXPECT_EQ(RuleRuns, 1);
+    EXPECT_TRUE(First.hasFocus()) << "a label takes no focus";
+    QTest::keyClick(&First, Qt::Key_A);
+    Accepts = false;
+    QTest::mouseClick(&Save, Qt::LeftButton);
+    EXPECT_EQ(RuleRuns, 2);
+    EXPECT_EQ(Saves, 0);
+}
+
+TEST_F(TextBoxes, UndoGoesOnWorkingAfterAFilteredCharacter) {
+    First.clear();
+    QTest::keyClick(&First, Qt::Key_A);
+    QKeyEvent typed(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUtf8("Ω"));
+    QApplication::sendEvent(&First, &typed);
+    EXPECT_EQ(First.text(), QStringLiteral("a?"));
+    EXPECT_TRUE(First.isUndoAvailable());
+    EXPECT_FALSE(First.acceptDrops());
+}
+
 TEST_F(TextBoxes, ClosingTheWindowRunsNoRule) {
     Accepts = false;
     Window.close();

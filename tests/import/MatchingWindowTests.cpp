@@ -152,8 +152,19 @@ TEST_F(MatchingWindowTest, UsesTheBirthDateForEveryEntryThatBeginsSo) {
     EXPECT_EQ(Text(" <-- dob (MMDDYear)"), Cell(0, 2));
     EXPECT_FALSE(Field(DobField)->isEnabled());
     EXPECT_TRUE(Field(DobField)->font().bold());
+    QTest::keyClick(window->cboDOB, Qt::Key_Up);
+    EXPECT_EQ(Text(" <-- DOB (YearMMDD)"), Cell(0, 2));
+    QTest::keyClick(window->cboDOB, Qt::Key_Down);
+    EXPECT_EQ(Text(" <-- DOB (MMDDYear)"), Cell(0, 2));
     Click("cmdClearMatch");
     EXPECT_TRUE(Field(DobField)->isEnabled());
+}
+
+TEST_F(MatchingWindowTest, ChoosingTheSameFormatAgainCountsAsChoosing) {
+    folder.Write(setupFile, "ActiveFields=1\nField1=dob (MMDDYear)\n");
+    OpenWith("a,b");
+    Q_EMIT window->cboDOB->activated(4);
+    EXPECT_EQ(Text(" <-- DOB (MMDDYear)"), Cell(0, 2));
 }
 
 TEST_F(MatchingWindowTest, WorksByTheKeyboard) {

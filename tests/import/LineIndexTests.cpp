@@ -1,4 +1,5 @@
 #include "import/LineIndex.h"
+#include "import/ByteScans.h"
 
 #include <QByteArray>
 #include <gtest/gtest.h>
@@ -66,6 +67,16 @@ TEST(LineIndexTest, CountsManyLinesBlockByBlock) {
     for (const char* line : {"x\r\n", "\n", "\r", "abc\n", "a,b,c,d\r"}) {
         EXPECT_EQ(30000, Indexed(QByteArray(line).repeated(30000), 8191, 4096, 99).LineCount()) << line;
     }
+}
+
+TEST(ByteScansTest, FindsTheAsciiBlocksInFront) {
+    QByteArray bytes(20000, 'x');
+    EXPECT_EQ(16384, AsciiAtStart(bytes.constData(), bytes.size())); // whole blocks of 4096 only
+    bytes[9000] = '\x80';
+    EXPECT_EQ(8192, AsciiAtStart(bytes.constData(), bytes.size()));
+    bytes[0] = '\xFF';
+    EXPECT_EQ(0, AsciiAtStart(bytes.constData(), bytes.size()));
+    EXPECT_EQ(0, AsciiAtStart(bytes.constData(), 0));
 }
 
 QByteArray RandomLines(std::mt19937& random, int size) {

@@ -58,6 +58,19 @@ TEST(Utf8SuspicionTest, JudgesByMarkOrValidCharacters) {
     }
 }
 
+TEST(Utf8SuspicionTest, FindsTheOneOddCharacterOfALongText) {
+    for (const qsizetype place : {0, 1, 4095, 4096, 4097, 9000, 19998}) {
+        for (const bool valid : {true, false}) {
+            QByteArray text(20000, 'x');
+            text[place] = '\xC3';
+            text[place + 1] = valid ? '\xA9' : 'x';
+            Utf8Suspicion suspicion;
+            suspicion.Add(text.constData(), text.size());
+            EXPECT_EQ(valid, suspicion.Suspected()) << place;
+        }
+    }
+}
+
 TEST(Utf8SuspicionTest, LetsManyValidCharactersSettleIt) {
     Utf8Suspicion few;
     const QByteArray text = QByteArray("\xC3\xA9").repeated(999);
