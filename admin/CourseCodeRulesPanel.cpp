@@ -4,6 +4,7 @@
 #include "platform/widgets/PathLabel.h"
 #include "platform/CodePage.h"
 #include "platform/widgets/DropDownList.h"
+#include "platform/widgets/PathLabel.h"
 #include "platform/widgets/Pictures.h"
 #include "platform/widgets/TextBox.h"
 
