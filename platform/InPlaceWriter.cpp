@@ -22,7 +22,7 @@ int Overwrite(OpenFile& open, qsizetype oldSize, const QByteArray& bytes) {
 }
 
 int OverwriteAndCompare(SystemCalls& calls, const NativePath& file, qsizetype oldSize, const QByteArray& bytes) {
-    OpenFile open(calls, Retried([&] { return calls.OpenForWriting(file); }));
+    OpenFile open(calls, RetriedWhileHeld(calls, [&] { return calls.OpenForWriting(file); }));
     int failure = open.Failure();
     failure = failure != 0 ? failure : Overwrite(open, oldSize, bytes);
     failure = failure != 0 ? failure : open.Close();
@@ -33,7 +33,7 @@ int OverwriteAndCompare(SystemCalls& calls, const NativePath& file, qsizetype ol
 
 // Each step is tried whatever became of the one before.
 void PutBack(SystemCalls& calls, const NativePath& file, const QByteArray& old) {
-    OpenFile open(calls, Retried([&] { return calls.OpenForWriting(file); }));
+    OpenFile open(calls, RetriedWhileHeld(calls, [&] { return calls.OpenForWriting(file); }));
     if (open.Failure() == 0) {
         open.Truncate(old.size());
         open.WriteAllAt(0, old);
