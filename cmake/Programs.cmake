@@ -6,9 +6,10 @@ function(gradewell_program name edition edition_source)
     add_executable(${name} app/main.cpp ${edition_source})
     target_link_libraries(${name} PRIVATE gradewell_flags app_windows options_windows import_windows
         admin_windows transfer_windows)
-    target_precompile_headers(${name} REUSE_FROM precompiled_widgets)
     if(WIN32)
-        gradewell_windows_properties(${name} ${edition})
+        gradewell_windows_properties(${name} ${edition}) # Qt's main for windows makes the shared header unfit
+    else()
+        target_precompile_headers(${name} REUSE_FROM precompiled_widgets)
     endif()
     install(TARGETS ${name} RUNTIME DESTINATION . COMPONENT ${edition})
     if(TARGET manuals)
