@@ -17,6 +17,7 @@ constexpr std::int64_t MostBytesACall = 1 << 20; // more in one call fails on so
 constexpr unsigned AnyWrite = 0222;
 constexpr unsigned FileMode = 0666; // access lists say more, and the move keeps them
 constexpr unsigned FolderMode = 0777;
+constexpr std::size_t LongestName = 255;
 constexpr int ProcessBits = 32;
 
 // The system's handles have no more than 32 bits that count.
@@ -52,6 +53,9 @@ public:
     }
 
     int Status(const NativePath& path, FileStatus& status) override {
+        if (path.filename().native().size() > LongestName) {
+            return -ENAMETOOLONG; // disks differ in what they say of it
+        }
         const bool looksThrough = path.filename() == "." || !path.has_filename();
         const DWORD links = looksThrough ? 0 : FILE_FLAG_OPEN_REPARSE_POINT;
         const HANDLE handle = CreateFileW(NameForCall(path).c_str(), FILE_READ_ATTRIBUTES, EverybodyMay, nullptr,

@@ -87,7 +87,11 @@ Volumes::FolderResult WindowsVolumes::ListFolders(const QString& path) const {
         return {{}, folder.Error};
     }
     QStringList names;
-    if (const int failure = -Retried([&] { return disks.VisibleFolders(folder.Path, names); })) {
+    int failure = FolderFailure(calls, folder.Path);
+    if (failure == 0 || failure == EACCES) {
+        failure = -Retried([&] { return disks.VisibleFolders(folder.Path, names); });
+    }
+    if (failure != 0) {
         return {{}, FolderError(failure)};
     }
     FolderResult result;
