@@ -1,23 +1,10 @@
-# Toolchain for 64-bit Windows with Debian's MinGW-w64 (posix threads). The environment variable QT_WINDOWS names the
-# folder of a static Qt for it, of the same version as the host's Qt, whose moc and rcc are used.
+# The toolchain of the Windows programs. The environment variable QT_WINDOWS names the folder of a static Qt for it, of
+# the same version as the host's Qt.
 if(NOT IS_DIRECTORY "$ENV{QT_WINDOWS}/lib/cmake/Qt6")
-    message(FATAL_ERROR "QT_WINDOWS has to name the folder of a static Qt for Windows (packaging/windows/build-qt makes one)")
+    message(FATAL_ERROR
+        "QT_WINDOWS has to name the folder of a static Qt for Windows; packaging/windows/build-qt makes one")
 endif()
-set(CMAKE_SYSTEM_NAME Windows)
-set(CMAKE_SYSTEM_PROCESSOR x86_64)
-set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
-set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
-set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
-set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 "$ENV{QT_WINDOWS}")
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
+include("${CMAKE_CURRENT_LIST_DIR}/mingw.cmake")
 set(Qt6_DIR "$ENV{QT_WINDOWS}/lib/cmake/Qt6" CACHE PATH "The static Qt for Windows")
-set(QT_HOST_PATH /usr CACHE PATH "The host's Qt")
-file(GLOB hostQt "/usr/lib/*/cmake/Qt6")
-foreach(place IN LISTS hostQt)
-    get_filename_component(place "${place}" DIRECTORY)
-    set(QT_HOST_PATH_CMAKE_DIR "${place}" CACHE PATH "The host's Qt for CMake")
-endforeach()
-set(CMAKE_CROSSCOMPILING_EMULATOR /usr/lib/wine/wine64 CACHE FILEPATH "What runs the programs here")
+set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../tests/windows/with-wine" CACHE FILEPATH
+    "What runs the programs on the building machine")

@@ -29,6 +29,10 @@ int OrError(BOOL done) {
     return done != 0 ? 0 : LastFailure();
 }
 
+std::int64_t Joined(DWORD high, DWORD low) {
+    return static_cast<std::int64_t>(std::uint64_t{high} << 32U | low);
+}
+
 // Tells this machine from others that work in the same shared folder.
 std::int64_t MachineNumber() {
     wchar_t name[256] = {};
@@ -103,7 +107,7 @@ public:
         LARGE_INTEGER reached = {};
         wanted.QuadPart = position;
         return SetFilePointerEx(Handle(handle), wanted, &reached, FILE_BEGIN) != 0 ? std::int64_t{reached.QuadPart}
-                                                                                  : LastFailure();
+                                                                                   : LastFailure();
     }
 
     int Truncate(int handle, std::int64_t size) override {
@@ -187,10 +191,11 @@ private:
         return {isFolder && !isLink,
                 !isFolder && !isLink,
                 isLink,
-                static_cast<std::int64_t>(std::uint64_t{found.nFileSizeHigh} << 32U | found.nFileSizeLow),
+                Joined(found.nFileSizeHigh, found.nFileSizeLow),
                 readOnly ? mode & ~AnyWrite : mode,
                 0,
-                0};
+                0,
+                Joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime)};
     }
 };
 

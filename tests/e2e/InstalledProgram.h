@@ -17,6 +17,10 @@ struct EditionNames {
     QString SaveKeys;
 };
 
+/// Whether the tests work the Windows programs: WINDOWS_BUILD names the build that made them, WINEPREFIX the folder
+/// with their drives. The installed program is then the one with the probe linked in.
+bool UnderWine();
+
 EditionNames EnglishNames();
 EditionNames FrenchNames();
 
@@ -28,6 +32,8 @@ public:
     const EditionNames Edition;
 
     QString Folder() const { return directory.path(); }
+    /// Makes a folder below it a drive of the program ('g'): in drives.conf, or under Wine as the system's own drive.
+    void MapDrive(char letter, const QString& name);
     /// Files of the folder by their name below it.
     void Write(const QString& name, const QByteArray& bytes);
     void MakeFolder(const QString& name);
