@@ -54,33 +54,19 @@ EditionNames FrenchNames() {
             QStringLiteral("alt+e")};
 }
 
-InstalledProgram::InstalledProgram(const EditionNames& edition) : Edition(edition) {
+InstalledProgram::InstalledProgram(const EditionNames& edition, ProgramKind kind) : Edition(edition) {
     QProcess installer;
     installer.start(QStringLiteral(E2E_CMAKE), {QStringLiteral("--install"), BuildFolder(), QStringLiteral("--prefix"),
                                                 Folder(), QStringLiteral("--component"), edition.Component});
     if (!installer.waitForFinished(-1) || installer.exitCode() != 0) {
         throw std::runtime_error("Cannot install: " + installer.readAllStandardError().toStdString());
     }
-    if (UnderWine()) {
+    if (UnderWine() && kind == ProgramKind::WithProbe) {
         const QString probed = BuildFolder() + QStringLiteral("/tests/e2e/probed/") + edition.Executable;
         Remove(edition.Executable);
         if (!QFile::copy(probed, Folder() + QLatin1Char('/') + edition.Executable)) {
             throw std::runtime_error("Cannot copy " + probed.toStdString());
         }
-    }
-}
-
-void InstalledProgram::MapDrive(char letter, const QString& name) {
-    const QString folder = Folder() + QLatin1Char('/') + name;
-    if (!UnderWine()) {
-        Write(QStringLiteral("drives.conf"), QByteArray(1, letter) + '=' + folder.toUtf8() + '\n');
-        return;
-    }
-    const QString drive =
-        qEnvironmentVariable("WINEPREFIX") + QStringLiteral("/dosdevices/") + QLatin1Char(letter) + QLatin1Char(':');
-    QFile::remove(drive);
-    if (!QFile::link(folder, drive)) {
-        throw std::runtime_error("Cannot make the drive " + drive.toStdString());
     }
 }
 

@@ -27,13 +27,11 @@ EditionNames FrenchNames();
 /// A program folder in a temporary folder, made by the project's own install rules.
 class InstalledProgram {
 public:
-    explicit InstalledProgram(const EditionNames& edition);
+    explicit InstalledProgram(const EditionNames& edition, ProgramKind kind = ProgramKind::WithProbe);
 
     const EditionNames Edition;
 
     QString Folder() const { return directory.path(); }
-    /// Makes a folder below it a drive of the program ('g'): in drives.conf, or under Wine as the system's own drive.
-    void MapDrive(char letter, const QString& name);
     /// Files of the folder by their name below it.
     void Write(const QString& name, const QByteArray& bytes);
     void MakeFolder(const QString& name);
