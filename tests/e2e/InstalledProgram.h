@@ -18,8 +18,10 @@ struct EditionNames {
 };
 
 /// Whether the tests work the Windows programs: WINDOWS_BUILD names the build that made them, WINEPREFIX the folder
-/// with their drives. The installed program is then the one with the probe linked in.
+/// with their drives. Nothing can be loaded into these programs, so the installed one is a twin with the probe linked
+/// in, unless a test takes the program itself.
 bool UnderWine();
+enum class ProgramKind { WithProbe, AsHandedOut };
 
 EditionNames EnglishNames();
 EditionNames FrenchNames();

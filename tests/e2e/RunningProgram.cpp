@@ -112,7 +112,12 @@ SeenWindow RunningProgram::AwaitWindow(const QString& title) {
         const SeenWindow* window = screen.Window(title);
         return window != nullptr && window->Active;
     };
-    return *Await(QStringLiteral("the window \"%1\"").arg(title), active).Window(title);
+    const SeenScreen seen = Await(QStringLiteral("the window \"%1\"").arg(title), active);
+    if (UnderWine()) { // whose windows are active before the display server gives them the keys
+        Await(QStringLiteral("the keys to reach \"%1\"").arg(title),
+              [&title](const SeenScreen&) { return ActiveTitle() == title; });
+    }
+    return *seen.Window(title);
 }
 
 void RunningProgram::AwaitNoWindow(const QString& title) {

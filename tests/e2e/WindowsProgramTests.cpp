@@ -20,46 +20,21 @@ constexpr unsigned long BetweenLooks = 50;
 const QString Older = QStringLiteral("GW_v11_PRG.CFG");
 const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
 
-QString AskScreen(const QStringList& arguments) {
-    QProcess asked;
-    asked.start(QStringLiteral("xdotool"), arguments);
-    asked.waitForFinished(Patience);
-    return QString::fromUtf8(asked.readAllStandardOutput()).trimmed();
-}
-
 template <typename Condition>
 void Await(const QString& what, Condition condition) {
     QElapsedTimer clock;
     clock.start();
     while (!condition()) {
         if (clock.elapsed() > Patience) {
-            throw std::runtime_error(
-                "Waited for " + what.toStdString() + "; the active window is " +
-                AskScreen({QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")}).toStdString());
+            throw std::runtime_error("Waited for " + what.toStdString() + "; the active window is " +
+                                     ActiveTitle().toStdString());
         }
         QThread::msleep(BetweenLooks);
     }
 }
 
 void AwaitActive(const QString& title) {
-    Await(title, [&] {
-        return AskScreen({QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")}) == title;
-    });
-}
-
-// Where the inside of the active window begins on the screen.
-QPoint Origin() {
-    const QString place =
-        AskScreen({QStringLiteral("getactivewindow"), QStringLiteral("getwindowgeometry"), QStringLiteral("--shell")});
-    QPoint origin;
-    for (const QString& line : place.split(QLatin1Char('\n'))) {
-        if (line.startsWith(QStringLiteral("X="))) {
-            origin.setX(line.mid(2).toInt());
-        } else if (line.startsWith(QStringLiteral("Y="))) {
-            origin.setY(line.mid(2).toInt());
-        }
-    }
-    return origin;
+    Await(title, [&] { return ActiveTitle() == title; });
 }
 
 class WindowsProgram : public testing::TestWithParam<std::string> {
@@ -113,7 +88,7 @@ protected:
 
     void Click(const QString& title, const char* control) {
         AwaitActive(title);
-        ClickAt(Origin() + places.value(QString::fromLatin1(control)));
+        ClickAt(ActiveOrigin() + places.value(QString::fromLatin1(control)));
     }
     void Press(const QString& title, const QString& chord) {
         AwaitActive(title);
@@ -139,7 +114,7 @@ private:
         program.Click(title, control);
         const QPoint middle = program.AwaitWindow(title).Control(control).Place.center();
         AwaitActive(title);
-        places.insert(control, middle - Origin());
+        places.insert(control, middle - ActiveOrigin());
         if (control == QStringLiteral("imgUnlocked")) {
             program.Click(title, QStringLiteral("imgLocked"));
         }
