@@ -111,12 +111,12 @@ private:
     QHash<QString, QPoint> places;
 
     void Learn(RunningProgram& program, const QString& title, const QString& control) {
-        program.Click(title, control);
-        const QPoint middle = program.AwaitWindow(title).Control(control).Place.center();
-        AwaitActive(title);
-        places.insert(control, middle - ActiveOrigin());
-        if (control == QStringLiteral("imgUnlocked")) {
-            program.Click(title, QStringLiteral("imgLocked"));
+        const SeenControl seen =
+            program.AwaitControl(title, control, QStringLiteral("to be there"),
+                                 [](const auto& now) { return now.Visible && !now.Place.isEmpty(); });
+        places.insert(control, seen.Place.center() - ActiveOrigin());
+        if (control != QStringLiteral("imgUnlocked")) { // which would be gone
+            program.Click(title, control);
         }
     }
 };
