@@ -1,7 +1,7 @@
 #include "admin/CourseCodeRulesPanel.h"
 
 #include "app/CFG_2015.h"
-#include "platform/widgets/PathLabel.h"
+#include "options/PathLabel.h"
 #include "platform/CodePage.h"
 #include "platform/widgets/DropDownList.h"
 #include "platform/widgets/PathLabel.h"
@@ -81,9 +81,9 @@ void CourseCodeRulesPanel::TestIfSampled() {
 }
 
 void CourseCodeRulesPanel::ShowParts(const CourseCodeParts& parts) {
-    lblCourseTest->setText(parts.Course);
-    lblClassTest->setText(parts.Section);
-    lblGradeTest->setText(parts.Grade);
+    lblCourseTest->ShowPath(parts.Course);
+    lblClassTest->ShowPath(parts.Section);
+    lblGradeTest->ShowPath(parts.Grade);
 }
 
 CourseCodeRules CourseCodeRulesPanel::RulesShown() const {
