@@ -1,7 +1,6 @@
 #include "admin/CourseCodeRulesPanel.h"
 
 #include "app/CFG_2015.h"
-#include "options/PathLabel.h"
 #include "platform/CodePage.h"
 #include "platform/widgets/DropDownList.h"
 #include "platform/widgets/PathLabel.h"
@@ -81,9 +80,9 @@ void CourseCodeRulesPanel::TestIfSampled() {
 }
 
 void CourseCodeRulesPanel::ShowParts(const CourseCodeParts& parts) {
-    lblCourseTest->ShowPath(parts.Course);
-    lblClassTest->ShowPath(parts.Section);
-    lblGradeTest->ShowPath(parts.Grade);
+    lblCourseTest->setText(parts.Course);
+    lblClassTest->setText(parts.Section);
+    lblGradeTest->setText(parts.Grade);
 }
 
 CourseCodeRules CourseCodeRulesPanel::RulesShown() const {
