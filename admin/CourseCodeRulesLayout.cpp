@@ -1,5 +1,4 @@
 #include "admin/CourseCodeRulesPanel.h"
-#include "platform/widgets/PathLabel.h"
 #include "platform/widgets/DropDownList.h"
 #include "platform/widgets/PathLabel.h"
 #include "platform/widgets/Pictures.h"

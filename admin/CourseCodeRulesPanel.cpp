@@ -1,7 +1,6 @@
 #include "admin/CourseCodeRulesPanel.h"
 
 #include "app/CFG_2015.h"
-#include "platform/widgets/PathLabel.h"
 #include "platform/CodePage.h"
 #include "platform/widgets/DropDownList.h"
 #include "platform/widgets/PathLabel.h"

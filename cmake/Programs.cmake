@@ -6,12 +6,17 @@ function(gradewell_program name edition edition_source)
     add_executable(${name} app/main.cpp ${edition_source})
     target_link_libraries(${name} PRIVATE gradewell_flags app_windows options_windows import_windows
         admin_windows transfer_windows)
-    target_precompile_headers(${name} REUSE_FROM precompiled_widgets)
+    if(WIN32)
+        gradewell_windows_properties(${name} ${edition}) # Qt's main for windows makes the shared header unfit
+    else()
+        target_precompile_headers(${name} REUSE_FROM precompiled_widgets)
+    endif()
     install(TARGETS ${name} RUNTIME DESTINATION . COMPONENT ${edition})
     if(TARGET manuals)
-        install(FILES "${PROJECT_BINARY_DIR}/manuals/${edition}/Gradewell Config.PDF" DESTINATION Manuals
-            COMPONENT ${edition})
         add_dependencies(${name} manuals)
+    endif()
+    if(TARGET manuals OR GRADEWELL_MANUALS)
+        install(FILES "${manual_folder}/${edition}/Gradewell Config.PDF" DESTINATION Manuals COMPONENT ${edition})
     endif()
 endfunction()
 
@@ -28,8 +33,31 @@ function(gradewell_manual edition)
         VERBATIM)
 endfunction()
 
-# The manuals are no matter for the sanitizers: their build tests the program's own code.
-if(NOT GRADEWELL_SANITIZE)
+# What Windows shows of the program's file: icon, version and manifest; and that it is no console program.
+function(gradewell_windows_properties name edition)
+    set(program_file ${name})
+    if(edition STREQUAL "english")
+        set(product_name "Gradewell 2016 Config")
+    else()
+        set(product_name "Carnelle 2016 Config")
+    endif()
+    set(source "${PROJECT_SOURCE_DIR}/packaging/windows")
+    configure_file("${source}/program.rc.in" "${PROJECT_BINARY_DIR}/windows/${name}.rc" @ONLY)
+    target_sources(${name} PRIVATE "${PROJECT_BINARY_DIR}/windows/${name}.rc")
+    set_source_files_properties("${PROJECT_BINARY_DIR}/windows/${name}.rc" PROPERTIES
+        OBJECT_DEPENDS "${source}/program.manifest;${PROJECT_SOURCE_DIR}/resources/pictures/icon.ico")
+    set_target_properties(${name} PROPERTIES WIN32_EXECUTABLE ON)
+endfunction()
+
+# The manuals are no matter for the sanitizers: their build tests the program's own code. A cross build, which cannot run
+# what it makes, takes them from the folder that another build wrote them to.
+set(GRADEWELL_MANUALS "" CACHE PATH "Folder with ready manuals (english/..., french/...), for cross builds")
+if(CMAKE_CROSSCOMPILING)
+    set(manual_folder "${GRADEWELL_MANUALS}")
+else()
+    set(manual_folder "${PROJECT_BINARY_DIR}/manuals")
+endif()
+if(NOT GRADEWELL_SANITIZE AND NOT CMAKE_CROSSCOMPILING)
     add_executable(manual_writer tools/ManualWriter.cpp)
     target_link_libraries(manual_writer PRIVATE Qt6::Gui gradewell_flags)
     gradewell_manual(english)

@@ -11,6 +11,11 @@ target_compile_definitions(gradewell_flags INTERFACE
 target_compile_options(gradewell_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
     -Werror)
+if(WIN32)
+    # The program is one file. No macros min and max, and the names of Windows 10's calls.
+    target_link_options(gradewell_flags INTERFACE -static)
+    target_compile_definitions(gradewell_flags INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
+endif()
 if(GRADEWELL_SANITIZE)
     target_compile_options(gradewell_flags INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer

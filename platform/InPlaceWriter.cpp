@@ -21,9 +21,12 @@ int Overwrite(OpenFile& open, qsizetype oldSize, const QByteArray& bytes) {
     return failure != 0 ? failure : open.Sync();
 }
 
-int OverwriteAndCompare(SystemCalls& calls, const NativePath& file, qsizetype oldSize, const QByteArray& bytes) {
-    OpenFile open(calls, Retried([&] { return calls.OpenForWriting(file); }));
+// `touched` tells whether anything can have been written.
+int OverwriteAndCompare(SystemCalls& calls, const NativePath& file, qsizetype oldSize, const QByteArray& bytes,
+                        bool& touched) {
+    OpenFile open(calls, RetriedWhileHeld(calls, [&] { return calls.OpenForWriting(file); }));
     int failure = open.Failure();
+    touched = failure == 0;
     failure = failure != 0 ? failure : Overwrite(open, oldSize, bytes);
     failure = failure != 0 ? failure : open.Close();
     QByteArray written;
@@ -33,7 +36,7 @@ int OverwriteAndCompare(SystemCalls& calls, const NativePath& file, qsizetype ol
 
 // Each step is tried whatever became of the one before.
 void PutBack(SystemCalls& calls, const NativePath& file, const QByteArray& old) {
-    OpenFile open(calls, Retried([&] { return calls.OpenForWriting(file); }));
+    OpenFile open(calls, RetriedWhileHeld(calls, [&] { return calls.OpenForWriting(file); }));
     if (open.Failure() == 0) {
         open.Truncate(old.size());
         open.WriteAllAt(0, old);
@@ -48,8 +51,9 @@ int WriteInPlace(SystemCalls& calls, const NativePath& file, const QByteArray& b
     if (const int failure = ReadFile(calls, file, old)) {
         return failure; // what cannot be read could not be put back
     }
-    const int failure = OverwriteAndCompare(calls, file, old.size(), bytes);
-    if (failure != 0) {
+    bool touched = false;
+    const int failure = OverwriteAndCompare(calls, file, old.size(), bytes, touched);
+    if (failure != 0 && touched) {
         PutBack(calls, file, old);
     }
     return failure;

@@ -16,6 +16,20 @@ auto Retried(Call call) {
     return result;
 }
 
+/// Repeats a call for up to 2 s while another program holds the file (-EBUSY), and returns its last result. Interrupted
+/// calls are repeated, too.
+template <typename Call>
+auto RetriedWhileHeld(SystemCalls& calls, Call call) {
+    constexpr int MostMilliseconds = 2000;
+    constexpr int BetweenTries = 50;
+    auto result = Retried(call);
+    for (int waited = 0; waited < MostMilliseconds && result == -EBUSY; waited += BetweenTries) {
+        calls.Wait(BetweenTries);
+        result = Retried(call);
+    }
+    return result;
+}
+
 /// An open file whose reads and writes go on after interrupted and short calls. It is closed at the end of its life.
 /// Every routine returns 0 on success and the errno value on failure.
 class OpenFile {

@@ -1,32 +1,24 @@
 #include "platform/RandomAccessFile.h"
 
 #include "platform/Desktop.h"
+#include "platform/OpenFile.h"
 #include "platform/Volumes.h"
 
 #include <cerrno>
-#include <filesystem>
-#include <system_error>
 
 namespace {
 
 constexpr std::int64_t UnknownPosition = -1;
 
-// Looks through symbolic links. A pipe or a device is refused before it is opened: opening one may wait for ever.
-SystemError LookAt(const NativePath& path, FileStamp& stamp) {
-    std::error_code failure;
-    const std::filesystem::file_status status = std::filesystem::status(path, failure);
-    if (failure) {
-        return ErrorFromErrno(failure.value());
+// A pipe or a device is refused before it is opened: opening one may wait for ever.
+SystemError LookAt(SystemCalls& calls, const NativePath& path, FileStamp& stamp) {
+    NativePath followed = path;
+    SystemCalls::FileStatus status;
+    if (const int failure = FollowLinks(calls, followed, status)) {
+        return ErrorFromErrno(failure);
     }
-    if (!std::filesystem::is_regular_file(status)) {
-        return MakeError(ErrorNumber::PathFileAccess);
-    }
-    stamp.Size = static_cast<std::int64_t>(std::filesystem::file_size(path, failure));
-    if (!failure) {
-        stamp.Written =
-            static_cast<std::int64_t>(std::filesystem::last_write_time(path, failure).time_since_epoch().count());
-    }
-    return failure ? ErrorFromErrno(failure.value()) : SystemError();
+    stamp = {status.Size, status.Written};
+    return status.IsRegularFile ? SystemError() : MakeError(ErrorNumber::PathFileAccess);
 }
 
 } // namespace
@@ -42,7 +34,7 @@ SystemError RandomAccessFile::Open(const QString& path) {
         return native.Error;
     }
     FileStamp found;
-    if (const SystemError error = LookAt(native.Path, found)) {
+    if (const SystemError error = LookAt(TheDesktop().TheSystemCalls(), native.Path, found)) {
         return error;
     }
     const int opened = TheDesktop().TheSystemCalls().OpenForReading(native.Path);

@@ -33,7 +33,7 @@ int ProbeForWriting(SystemCalls& calls, const Target& target) {
         return EACCES; // also for an administrator, whom the system would let pass
     }
     OpenFile open(calls, Retried([&] { return calls.OpenForWriting(target.Path); }));
-    return open.Failure();
+    return open.Failure() == EBUSY ? 0 : open.Failure(); // another program has it open now; the move waits for it
 }
 
 SystemError FindTarget(SystemCalls& calls, Target& target) {
@@ -143,7 +143,7 @@ SystemError ReplaceTarget(SystemCalls& calls, OpenFile& open, const NativePath& 
     SystemError error = ErrorFromErrno(Fill(calls, open, temporary, target, bytes));
     int moveFailure = 0;
     if (!error) {
-        moveFailure = -Retried([&] { return calls.Replace(temporary, target.Path); });
+        moveFailure = -RetriedWhileHeld(calls, [&] { return calls.Replace(temporary, target.Path); });
         const bool moved = moveFailure == 0 || WasMoved(calls, temporary, target.Path, bytes);
         error = moved ? SystemError() : FolderError(moveFailure);
     }

@@ -16,9 +16,10 @@ public:
         bool IsRegularFile = false;
         bool IsSymbolicLink = false;
         std::int64_t Size = 0;
-        unsigned Mode = 0;  ///< permission bits
-        unsigned Owner = 0; ///< user number; 0 on Windows
-        unsigned Group = 0; ///< group number; 0 on Windows
+        unsigned Mode = 0;        ///< permission bits
+        unsigned Owner = 0;       ///< user number; 0 on Windows
+        unsigned Group = 0;       ///< group number; 0 on Windows
+        std::int64_t Written = 0; ///< time of the last write, in the system's own unit
     };
 
     virtual ~SystemCalls() = default;

@@ -1,7 +1,5 @@
 #include "platform/SystemError.h"
 
-#include <cerrno>
-
 namespace {
 
 struct Row {
@@ -71,6 +69,8 @@ SystemError ErrorFromErrno(int code) {
     case ETXTBSY:
 #endif
         return MakeError(ErrorNumber::PermissionDenied);
+    case NoDiskInDrive:
+        return MakeError(ErrorNumber::DiskNotReady);
     case ENOTDIR:
         return MakeError(ErrorNumber::PathNotFound);
     default:

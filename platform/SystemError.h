@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <cerrno>
 
 /// An error of the system as messages show it: the number and description that administrators know.
 /// A value of number 0 means that nothing failed.
@@ -33,6 +34,13 @@ enum class ErrorNumber {
 
 /// The error with its description ("Disk full"; "Cancel was selected." for a cancelled dialog).
 SystemError MakeError(ErrorNumber number);
+
+/// The errno value of a drive without a disk in it; where the system has none, one that no call returns.
+#ifdef ENOMEDIUM
+constexpr int NoDiskInDrive = ENOMEDIUM;
+#else
+constexpr int NoDiskInDrive = 20000;
+#endif
 
 /// Maps an errno value (ENOSPC, EACCES, ...) to the table; 0 gives no error, an unknown value number 75.
 /// ENOENT becomes 53; whoever knows that the folder itself is missing reports 76 instead.

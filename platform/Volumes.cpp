@@ -7,6 +7,12 @@ namespace {
 
 constexpr qsizetype DriveLength = 2;
 
+#ifdef _WIN32
+constexpr char16_t NoDriveText[] = u"No drive of this machine and no share of the network reaches it.";
+#else
+constexpr char16_t NoDriveText[] = u"No drive of the table in drives.conf reaches it.";
+#endif
+
 } // namespace
 
 QString Volumes::WholePath(const QString& path) const {
@@ -20,7 +26,7 @@ QString Volumes::WholePath(const QString& path) const {
         const QString whole = drive + WithoutTrailingBackslash(below);
         return whole.size() == DriveLength ? whole + QChar(u'\\') : whole;
     }
-    const QString current = currentFolders.value(drive, drive + QChar(u'\\'));
+    const QString current = currentFolders.contains(drive) ? currentFolders.value(drive) : FirstFolder(drive);
     return below.isEmpty() ? current : JoinPath(current, WithoutTrailingBackslash(below));
 }
 
@@ -32,10 +38,14 @@ void Volumes::SetCurrentFolder(const QString& path) {
     }
 }
 
+QString Volumes::FirstFolder(const QString& drive) const {
+    return drive + QChar(u'\\');
+}
+
 QString RefusedFolderText(const QString& nativeName, const SystemError& error) {
     QString reason = QStringLiteral("Error %1: %2.").arg(error.Number).arg(error.Description);
     if (error.Number == static_cast<int>(ErrorNumber::DeviceUnavailable)) {
-        reason = QStringLiteral("No drive of the table in drives.conf reaches it.");
+        reason = QString::fromUtf16(NoDriveText);
     } else if (error.Number == static_cast<int>(ErrorNumber::BadFileName)) {
         reason = QStringLiteral("Its name has characters that the gradebook's files cannot hold.");
     }

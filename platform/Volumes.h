@@ -47,6 +47,10 @@ public:
     /// The folder last chosen on the path's drive becomes what the drive alone stands for.
     void SetCurrentFolder(const QString& path);
 
+protected:
+    /// What a drive alone stands for as long as no folder was chosen on it: its root, unless the system knows better.
+    virtual QString FirstFolder(const QString& drive) const;
+
 private:
     QHash<QString, QString> currentFolders; // by drive ("c:")
 };

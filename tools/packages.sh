@@ -4,6 +4,9 @@
 BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgtest-dev fonts-dejavu-core fonts-liberation2"
 # A virtual screen, a window manager for it, and real key and mouse events.
 SCREEN_PACKAGES="xvfb xauth openbox xdotool"
+# Compiler, test library and packer of the Windows programs, and what runs them here (the 64-bit loader is enough).
+WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix googletest zip"
+WINE_PACKAGES="wine wine64 fonts-wine"
 
 # Prints those of the named packages that are not installed.
 missing_packages() {

@@ -15,6 +15,7 @@ namespace {
 
 constexpr unsigned PermissionBits = 07777;
 constexpr int ProcessBits = 32;
+constexpr std::int64_t NanosecondsASecond = 1'000'000'000;
 
 template <typename Result>
 Result OrError(Result result) {
@@ -43,7 +44,8 @@ public:
                   std::int64_t{found.st_size},
                   found.st_mode & PermissionBits,
                   found.st_uid,
-                  found.st_gid};
+                  found.st_gid,
+                  std::int64_t{found.st_mtim.tv_sec} * NanosecondsASecond + found.st_mtim.tv_nsec};
         return 0;
     }
 

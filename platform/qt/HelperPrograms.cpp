@@ -1,6 +1,7 @@
 #include "platform/qt/HelperPrograms.h"
 
-HelperCommand CommandFor(HelperProgram program, const QString& nativePath, const HelperSurroundings& surroundings) {
+HelperCommand CommandFor(HelperProgram program, const QString& nativePath,
+                         [[maybe_unused]] const HelperSurroundings& surroundings) {
 #ifdef Q_OS_WIN
     const bool viewer = program == HelperProgram::FileViewer;
     return {viewer ? QStringLiteral("explorer.exe") : QStringLiteral("notepad.exe"), {nativePath}};

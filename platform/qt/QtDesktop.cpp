@@ -5,6 +5,9 @@
 #include "platform/qt/DialogFilters.h"
 #include "platform/qt/HelperPrograms.h"
 #include "platform/qt/PrinterFonts.h"
+#ifdef _WIN32
+#include "platform/qt/windows/SystemFontDialog.h"
+#endif
 
 #include <QApplication>
 #include <QFileDialog>
@@ -124,6 +127,9 @@ FileDialogAnswer QtDesktop::AskForFile(const FileDialog& dialog) {
 }
 
 FontDialogAnswer QtDesktop::AskForFont(const QString& fontName, int pointSize) {
+#ifdef _WIN32
+    return AskSystemForFont(fontName, pointSize);
+#else
     QFont initial = QApplication::font();
     if (!fontName.isEmpty()) {
         initial.setFamily(fontName);
@@ -134,6 +140,7 @@ FontDialogAnswer QtDesktop::AskForFont(const QString& fontName, int pointSize) {
         return {QString(), MakeError(ErrorNumber::DialogCancelled)};
     }
     return {asked.selectedFont().family(), {}};
+#endif
 }
 
 SystemError QtDesktop::StartProgram(HelperProgram program, const QString& path) {

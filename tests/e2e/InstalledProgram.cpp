@@ -17,11 +17,24 @@ QByteArray ReadFile(const QString& path) {
     return file.readAll();
 }
 
+QString ExecutableName(const QString& program) {
+    return UnderWine() ? program + QStringLiteral(".exe") : program;
+}
+
+// The folder of the build that is installed.
+QString BuildFolder() {
+    return qEnvironmentVariable("WINDOWS_BUILD", QStringLiteral(E2E_BUILD));
+}
+
 } // namespace
+
+bool UnderWine() {
+    return qEnvironmentVariableIsSet("WINDOWS_BUILD");
+}
 
 EditionNames EnglishNames() {
     return {QStringLiteral("english"),
-            QStringLiteral("gradewell-config"),
+            ExecutableName(QStringLiteral("gradewell-config")),
             QStringLiteral("Gradewell 2016 Config"),
             QStringLiteral("Gradewell - GENERAL OPTIONS"),
             QStringLiteral("PRINTER FONT ERROR"),
@@ -32,7 +45,7 @@ EditionNames EnglishNames() {
 
 EditionNames FrenchNames() {
     return {QStringLiteral("french"),
-            QStringLiteral("carnelle-config"),
+            ExecutableName(QStringLiteral("carnelle-config")),
             QStringLiteral("Carnelle 2016 Config"),
             QStringLiteral("Carnelle - GENERAL OPTIONS"),
             QStringLiteral("Erreur de police d'imprimante"),
@@ -41,13 +54,19 @@ EditionNames FrenchNames() {
             QStringLiteral("alt+e")};
 }
 
-InstalledProgram::InstalledProgram(const EditionNames& edition) : Edition(edition) {
+InstalledProgram::InstalledProgram(const EditionNames& edition, ProgramKind kind) : Edition(edition) {
     QProcess installer;
-    installer.start(QStringLiteral(E2E_CMAKE),
-                    {QStringLiteral("--install"), QStringLiteral(E2E_BUILD), QStringLiteral("--prefix"), Folder(),
-                     QStringLiteral("--component"), edition.Component});
+    installer.start(QStringLiteral(E2E_CMAKE), {QStringLiteral("--install"), BuildFolder(), QStringLiteral("--prefix"),
+                                                Folder(), QStringLiteral("--component"), edition.Component});
     if (!installer.waitForFinished(-1) || installer.exitCode() != 0) {
         throw std::runtime_error("Cannot install: " + installer.readAllStandardError().toStdString());
+    }
+    if (UnderWine() && kind == ProgramKind::WithProbe) {
+        const QString probed = BuildFolder() + QStringLiteral("/tests/e2e/probed/") + edition.Executable;
+        Remove(edition.Executable);
+        if (!QFile::copy(probed, Folder() + QLatin1Char('/') + edition.Executable)) {
+            throw std::runtime_error("Cannot copy " + probed.toStdString());
+        }
     }
 }
 

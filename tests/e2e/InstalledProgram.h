@@ -17,13 +17,19 @@ struct EditionNames {
     QString SaveKeys;
 };
 
+/// Whether the tests work the Windows programs: WINDOWS_BUILD names the build that made them, WINEPREFIX the folder
+/// with their drives. Nothing can be loaded into these programs, so the installed one is a twin with the probe linked
+/// in, unless a test takes the program itself.
+bool UnderWine();
+enum class ProgramKind { WithProbe, AsHandedOut };
+
 EditionNames EnglishNames();
 EditionNames FrenchNames();
 
 /// A program folder in a temporary folder, made by the project's own install rules.
 class InstalledProgram {
 public:
-    explicit InstalledProgram(const EditionNames& edition);
+    explicit InstalledProgram(const EditionNames& edition, ProgramKind kind = ProgramKind::WithProbe);
 
     const EditionNames Edition;
 

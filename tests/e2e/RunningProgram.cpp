@@ -1,5 +1,6 @@
 #include "tests/e2e/RunningProgram.h"
 
+#include "tests/e2e/InstalledProgram.h"
 #include "tests/e2e/Screen.h"
 
 #include <QDir>
@@ -33,6 +34,10 @@ QProcessEnvironment CleanEnvironment(const QString& home) {
     }
     environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("CUPS_SERVER"), home + QStringLiteral("/no-print-service"));
+    if (UnderWine()) { // which keeps Qt's variables of this machine from the programs
+        environment.insert(QStringLiteral("WINEPREFIX"), mine.value(QStringLiteral("WINEPREFIX")));
+        return environment;
+    }
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("probe"));
     environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(E2E_PLUGINS));
@@ -50,7 +55,12 @@ RunningProgram::RunningProgram(const QString& folder, const QString& executable,
     process.setProcessEnvironment(clean);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.setWorkingDirectory(home.path()); // its files are in its own folder, wherever it was started from
-    process.start(QDir(folder).absoluteFilePath(executable), QStringList());
+    QStringList command = {QDir(folder).absoluteFilePath(executable)};
+    if (UnderWine()) {
+        command =
+            QStringList{QStringLiteral(E2E_WITH_WINE), command[0], QStringLiteral("-plugin"), QStringLiteral("probe")};
+    }
+    process.start(command[0], command.mid(1));
     if (!process.waitForStarted(Patience)) {
         Fail(QStringLiteral("Cannot start %1 in %2: %3").arg(executable, folder, process.errorString()));
     }
@@ -102,7 +112,12 @@ SeenWindow RunningProgram::AwaitWindow(const QString& title) {
         const SeenWindow* window = screen.Window(title);
         return window != nullptr && window->Active;
     };
-    return *Await(QStringLiteral("the window \"%1\"").arg(title), active).Window(title);
+    const SeenScreen seen = Await(QStringLiteral("the window \"%1\"").arg(title), active);
+    if (UnderWine()) { // whose windows are active before the display server gives them the keys
+        Await(QStringLiteral("the keys to reach \"%1\"").arg(title),
+              [&title](const SeenScreen&) { return ActiveTitle() == title; });
+    }
+    return *seen.Window(title);
 }
 
 void RunningProgram::AwaitNoWindow(const QString& title) {

@@ -21,6 +21,14 @@ void SendEvents(const QStringList& arguments) {
     }
 }
 
+// The answer about the active window; empty when there is none or it goes away meanwhile.
+QString AskActive(const QStringList& question) {
+    QProcess asked;
+    asked.start(QStringLiteral("xdotool"), QStringList{QStringLiteral("getactivewindow")} + question);
+    asked.waitForFinished(MillisecondsForOneStep);
+    return QString::fromUtf8(asked.readAllStandardOutput()).trimmed();
+}
+
 QStringList Move(const QPoint& place) {
     return {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())};
 }
@@ -56,6 +64,23 @@ void PressKey(const QString& chord) {
 
 void TypeText(const QString& text) {
     SendEvents({QStringLiteral("type"), QStringLiteral("--"), text});
+}
+
+QString ActiveTitle() {
+    return AskActive({QStringLiteral("getwindowname")});
+}
+
+QPoint ActiveOrigin() {
+    const QString place = AskActive({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell")});
+    QPoint origin;
+    for (const QString& line : place.split(QLatin1Char('\n'))) {
+        if (line.startsWith(QStringLiteral("X="))) {
+            origin.setX(line.mid(2).toInt());
+        } else if (line.startsWith(QStringLiteral("Y="))) {
+            origin.setY(line.mid(2).toInt());
+        }
+    }
+    return origin;
 }
 
 void SavePicture(const QRect& part, const QString& file) {

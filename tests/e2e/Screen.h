@@ -17,5 +17,10 @@ void PressKey(const QString& chord);
 /// Types characters of the basic Latin alphabet.
 void TypeText(const QString& text);
 
+/// The title of the window that the display server gives the keys to; empty when there is none.
+QString ActiveTitle();
+/// Where the inside of that window begins.
+QPoint ActiveOrigin();
+
 /// Saves a part of the screen as a PNG once it stands still.
 void SavePicture(const QRect& part, const QString& file);

@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
+#ifndef _WIN32 // there it would have no fonts
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+#endif
     QApplication application(argc, argv);
     ProgramStyle::Install();
     testing::InitGoogleTest(&argc, argv);

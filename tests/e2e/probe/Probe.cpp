@@ -11,7 +11,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSocketNotifier>
+#include <QThread>
 #include <QWidget>
+#include <cstdio>
 #include <memory>
 
 namespace {
@@ -82,6 +84,29 @@ QByteArray DescribeScreen() {
     return QJsonDocument(QJsonObject{{QStringLiteral("windows"), windows}}).toJson(QJsonDocument::Compact) + '\n';
 }
 
+#ifdef _WIN32
+// Windows tells nobody that there is something to read on a pipe, so a thread waits for it.
+class Probe : public QObject {
+public:
+    Probe() : reader(QThread::create([this] { Read(); })) {
+        output.open(1, QIODevice::WriteOnly);
+        reader->start();
+    }
+
+private:
+    QFile output;
+    QThread* reader; // ends with the program: nothing else ends a read from a pipe
+
+    void Read() {
+        while (std::getchar() != EOF) {
+            QMetaObject::invokeMethod(this, [this] {
+                output.write(DescribeScreen());
+                output.flush();
+            });
+        }
+    }
+};
+#else
 class Probe : public QObject {
 public:
     Probe() : requests(0, QSocketNotifier::Read) {
@@ -105,6 +130,7 @@ private:
         output.flush();
     }
 };
+#endif
 
 } // namespace
 
@@ -115,5 +141,9 @@ class ProbePlugin : public QGenericPlugin {
 public:
     QObject* create(const QString&, const QString&) override { return new Probe; } // Qt owns it
 };
+
+#ifdef QT_STATICPLUGIN
+Q_IMPORT_PLUGIN(ProbePlugin)
+#endif
 
 #include "Probe.moc"
