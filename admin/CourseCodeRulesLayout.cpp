@@ -1,6 +1,6 @@
 #include "admin/CourseCodeRulesPanel.h"
-#include "options/PathLabel.h"
 #include "platform/widgets/DropDownList.h"
+#include "platform/widgets/PathLabel.h"
 #include "platform/widgets/Pictures.h"
 #include "platform/widgets/ProgramStyle.h"
 #include "platform/widgets/TextBox.h"

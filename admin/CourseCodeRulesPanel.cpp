@@ -1,9 +1,9 @@
 #include "admin/CourseCodeRulesPanel.h"
 
 #include "app/CFG_2015.h"
-#include "options/PathLabel.h"
 #include "platform/CodePage.h"
 #include "platform/widgets/DropDownList.h"
+#include "platform/widgets/PathLabel.h"
 #include "platform/widgets/Pictures.h"
 #include "platform/widgets/TextBox.h"
 
@@ -80,9 +80,9 @@ void CourseCodeRulesPanel::TestIfSampled() {
 }
 
 void CourseCodeRulesPanel::ShowParts(const CourseCodeParts& parts) {
-    lblCourseTest->ShowPath(parts.Course);
-    lblClassTest->ShowPath(parts.Section);
-    lblGradeTest->ShowPath(parts.Grade);
+    lblCourseTest->setText(parts.Course);
+    lblClassTest->setText(parts.Section);
+    lblGradeTest->setText(parts.Grade);
 }
 
 CourseCodeRules CourseCodeRulesPanel::RulesShown() const {
