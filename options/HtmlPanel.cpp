@@ -54,6 +54,7 @@ void HtmlPanel::AddNameFrame() {
     bold.setBold(true);
     lblHTML_FileNameExample->setFont(bold);
     lblHTML_FileNameExample->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    lblHTML_FileNameExample->setMinimumWidth(1); // a long name does not widen the window
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(Spacing::Gap);
@@ -63,8 +64,9 @@ void HtmlPanel::AddNameFrame() {
     AddNameRow(grid, "lblSep1", txtHTML_File_Sep1, "lblSep6");
     AddNameRow(grid, "lblSep2", txtHTML_File_Sep2, "lblSep7");
     AddNameRow(grid, "lblSep3", cboHTML_FileNameOrder, nullptr);
-    AddNameRow(grid, "lblSep4", lblHTML_FileNameExample, "lblSep8");
+    AddNameRow(grid, "lblSep4", lblHTML_FileNameExample, nullptr);
     frame.Column->addLayout(grid);
+    frame.Column->addWidget(NewExplanation("lblSep8", frame.Box));
     frame.Column->addWidget(NewExplanation("lblSep9", frame.Box));
     frame.Column->addWidget(NewExplanation("lblSep10", frame.Box));
     Column->addWidget(frame.Box);
@@ -143,6 +145,7 @@ void HtmlPanel::ShowExample() {
     HTML_FileNameConstruct(ProgramConfig.HTMLSchool, QStringLiteral("CourseCode"), QStringLiteral("StudentID"),
                            ProgramConfig.HTMLFileSep1, ProgramConfig.HTMLFileSep2, ProgramConfig.HTMLFileNameOrder);
     lblHTML_FileNameExample->setText(exampleName);
+    lblHTML_FileNameExample->setToolTip(exampleName.toHtmlEscaped());
 }
 
 void HtmlPanel::cboHTML_FileNameOrder_Click() {

@@ -160,6 +160,15 @@ TEST_P(SetupOfEdition, FitsTheSmallestScreen) {
     }
 }
 
+TEST_P(SetupOfEdition, ALongReportNameDoesNotWidenTheWindow) {
+    constexpr int reportLine = 71;
+    Start(WithLines(Base(), {{reportLine, "\"" + QByteArray("NORTH-").repeated(20) + "\",\"-\",\"_\",3,0"}}),
+          GetParam());
+    OpenPanel(5);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Window->size(), QSize(800, 600));
+}
+
 TEST_P(SetupOfEdition, TabFollowsTheEye) {
     Start(Base(), GetParam());
     Open();

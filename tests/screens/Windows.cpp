@@ -24,6 +24,15 @@ Control& ControlOf(const QWidget& window, const QString& name) {
     return *control;
 }
 
+// Being shown, the window opens the file of the settings or asks for one.
+void TakeImportWith(bool frenchCaptions, const char* name, PictureTaker& pictures) {
+    frmImport_SU window;
+    if (frenchCaptions) {
+        window.SpeakFrench_ImportSU();
+    }
+    pictures.Take(window, name);
+}
+
 void TakeAdminWith(bool frenchCaptions, const char* name, PictureTaker& pictures) {
     frmAdmin_SU window;
     if (frenchCaptions) {
@@ -73,17 +82,10 @@ void TakeGeneralOptions(Edition edition, PictureTaker& pictures) {
 void TakeImport(Edition edition, PictureTaker& pictures) {
     Scene scene(edition);
     scene.Machine.Write(ProgramFolder + QStringLiteral("\\UpdField.cfg"), HandWritten("import/UpdField-three.cfg"));
-    frmImport_SU window;
-    pictures.Take(window, "import");
+    TakeImportWith(false, "import", pictures);
     if (edition == Edition::French) {
-        frmImport_SU french;
-        french.SpeakFrench_ImportSU();
-        pictures.Take(french, "import-french-captions");
+        TakeImportWith(true, "import-french-captions", pictures);
     }
-    ProgramConfig.ImportStudentsFile.clear();
-    scene.Machine.Screen.AnswerFile(QString());
-    frmImport_SU empty;
-    pictures.Take(empty, "import-without-file");
 }
 
 void TakeAdmin(Edition edition, PictureTaker& pictures) {
