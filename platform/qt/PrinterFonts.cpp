@@ -1,5 +1,5 @@
 #include "platform/qt/PrinterFonts.h"
 
-bool PrinterCanUse(const QString& fontName, bool hasPrinter, const QStringList& families) {
-    return hasPrinter && families.contains(fontName, Qt::CaseInsensitive);
+bool PrinterCanUse(const QString& fontName, const QStringList& families, const std::function<bool()>& hasPrinter) {
+    return families.contains(fontName, Qt::CaseInsensitive) && hasPrinter();
 }

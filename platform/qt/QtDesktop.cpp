@@ -162,7 +162,8 @@ QSize QtDesktop::ScreenSize() {
 }
 
 bool QtDesktop::SetPrinterFont(const QString& fontName) {
-    return PrinterCanUse(fontName, !QPrinterInfo::defaultPrinterName().isEmpty(), QFontDatabase::families());
+    return PrinterCanUse(fontName, QFontDatabase::families(),
+                         [] { return !QPrinterInfo::defaultPrinterName().isEmpty(); });
 }
 
 void QtDesktop::ProcessPendingEvents() {

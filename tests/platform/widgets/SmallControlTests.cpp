@@ -104,10 +104,15 @@ TEST(DialogFilters, AsQtTakesThem) {
 
 TEST(PrinterFonts, APrinterAndTheFontAreNeeded) {
     const QStringList families{QStringLiteral("DejaVu Sans"), QStringLiteral("ARIAL")};
-    EXPECT_TRUE(PrinterCanUse(QStringLiteral("Arial"), true, families));
-    EXPECT_FALSE(PrinterCanUse(QStringLiteral("Arial"), false, families));
-    EXPECT_FALSE(PrinterCanUse(QStringLiteral("Arial"), true, {QStringLiteral("Arial Black")}));
-    EXPECT_FALSE(PrinterCanUse(QString(), true, families));
+    int asked = 0;
+    const auto printer = [&] { return ++asked > 0; };
+    const auto noPrinter = [] { return false; };
+    EXPECT_TRUE(PrinterCanUse(QStringLiteral("Arial"), families, printer));
+    EXPECT_EQ(asked, 1);
+    EXPECT_FALSE(PrinterCanUse(QStringLiteral("Arial"), families, noPrinter));
+    EXPECT_FALSE(PrinterCanUse(QStringLiteral("Arial"), {QStringLiteral("Arial Black")}, printer));
+    EXPECT_FALSE(PrinterCanUse(QString(), families, printer));
+    EXPECT_EQ(asked, 1) << "without the font the printers are not asked";
 }
 
 #ifndef Q_OS_WIN
