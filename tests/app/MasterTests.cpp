@@ -98,7 +98,11 @@ TEST_F(Menu, EveryWayToToggleTheLockWritesBothFiles) {
         {"closed lock, mouse", [&] { QTest::mouseClick(closedLock, Qt::LeftButton); }},
         {"label", [&] { QTest::mouseClick(label, Qt::LeftButton); }},
         {"label again", [&] { QTest::mouseClick(label, Qt::LeftButton); }},
-        {"open lock, Space", [&] { openLock->setFocus(); QTest::keyClick(openLock, Qt::Key_Space); }},
+        {"open lock, Space",
+         [&] {
+             openLock->setFocus();
+             QTest::keyClick(openLock, Qt::Key_Space);
+         }},
         {"closed lock, Enter, focus kept", [&] { QTest::keyClick(Window->focusWidget(), Qt::Key_Return); }},
     };
     bool lock = false;
@@ -226,10 +230,11 @@ TEST_F(Menu, OkInTheScreenMessageEndsTheProgram) {
         EXPECT_EQ(message.Title, QStringLiteral("ADJUST SCREEN RESOLUTION"));
         EXPECT_EQ(message.Buttons, MessageButtons::OkCancel);
         EXPECT_EQ(message.Icon, MessageIcon::Critical);
-        EXPECT_EQ(message.Text, QStringLiteral("This version of %1 Setup requires a screen resolution of at least 800 x "
-                                               "600. Please adjust your screen settings.\n\nClick [Cancel] to use your "
-                                               "current settings anyway.")
-                                    .arg(ProductName));
+        EXPECT_EQ(message.Text,
+                  QStringLiteral("This version of %1 Setup requires a screen resolution of at least 800 x "
+                                 "600. Please adjust your screen settings.\n\nClick [Cancel] to use your "
+                                 "current settings anyway.")
+                      .arg(ProductName));
         EXPECT_EQ(Disk.Names(Folder), QStringList()) << "nothing is saved";
     }
 }
@@ -248,12 +253,11 @@ TEST_F(Menu, ThePrinterIsCheckedBeforeTheFileIsRead) {
 TEST_F(Menu, OptionsWindowsLiveOnlyWhileTheyAreShown) {
     struct Button {
         const char* name;
-        OptionWindowMaker OptionWindowMakers::* maker;
+        OptionWindowMaker OptionWindowMakers::*maker;
     };
-    for (const auto& [name, maker] : {Button{"cmdGeneral", &OptionWindowMakers::General},
-                                      Button{"cmdImport", &OptionWindowMakers::Import},
-                                      Button{"cmdAdmin", &OptionWindowMakers::Admin},
-                                      Button{"cmdTransfer", &OptionWindowMakers::Transfer}}) {
+    for (const auto& [name, maker] :
+         {Button{"cmdGeneral", &OptionWindowMakers::General}, Button{"cmdImport", &OptionWindowMakers::Import},
+          Button{"cmdAdmin", &OptionWindowMakers::Admin}, Button{"cmdTransfer", &OptionWindowMakers::Transfer}}) {
         Disk.Write(QStringLiteral("c:\\gradewell\\GWTCY_2016.exe"), "x");
         QPointer<QDialog> made;
         bool modal = false;
@@ -273,6 +277,17 @@ TEST_F(Menu, OptionsWindowsLiveOnlyWhileTheyAreShown) {
         EXPECT_TRUE(made.isNull()) << name << ": unloaded when the menu became active";
         EXPECT_EQ(The<QLabel>("lblToday")->text(), QStringLiteral("2016/3/7  (Mon.)")) << name;
     }
+}
+
+// The captions are set before the file is located, so the French ones name the file of that edition.
+TEST_F(Menu, FrenchCaptionsNameTheFrenchFile) {
+    Disk.Write(Newer, EveryFieldFile);
+    Start(Edition::French);
+    EXPECT_TRUE(The<QLabel>("lblGenOpt2")->text().contains(QStringLiteral("'CrNl7PRG.CFG'")));
+    EXPECT_TRUE(The<QLabel>("lblGenOpt2")->text().contains(QStringLiteral("Carnelle program folder")));
+    EXPECT_EQ(ConfigFileName, QStringLiteral("GW_v12_PRG.CFG"));
+    EXPECT_EQ(Window->windowTitle(), QStringLiteral("Carnelle 2016 Config"));
+    EXPECT_EQ(The<QLabel>("lblToday")->text(), QStringLiteral("7 mar. 2016  (lun.)"));
 }
 
 TEST_F(Menu, AButtonWithoutAWindowOpensNothing) {
@@ -305,6 +320,10 @@ TEST_F(Menu, TheLockLiesWhereItBelongs) {
         EXPECT_EQ(place.y(), 16) << name;
         if (lock == The<QToolButton>("imgLocked")) {
             EXPECT_EQ(place.x(), 552);
+            lock->setVisible(false);
+            The<QToolButton>("imgUnlocked")->setVisible(true);
+            QApplication::processEvents();
+            EXPECT_EQ(The<QToolButton>("imgUnlocked")->mapTo(frame, QPoint()), QPoint(552, 16));
         }
     }
 }
@@ -320,7 +339,8 @@ TEST_F(Menu, NoTextIsCut) {
             QApplication::processEvents();
             EXPECT_EQ(Window->size(), size);
             for (const QLabel* label : Window->findChildren<QLabel*>()) {
-                const int needed = label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+                const int needed =
+                    label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
                 EXPECT_GE(label->height(), needed) << label->objectName().toStdString();
                 EXPECT_GE(label->width(), label->wordWrap() ? 100 : label->sizeHint().width())
                     << label->objectName().toStdString();
@@ -349,7 +369,8 @@ TEST_F(Menu, EveryControlThatTakesTheFocusHasAName) {
     Start();
     for (const QWidget* widget : Window->findChildren<QWidget*>()) {
         if (widget->focusPolicy() != Qt::NoFocus) {
-            const QString name = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget))->text(QAccessible::Name);
+            const QString name =
+                QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget))->text(QAccessible::Name);
             EXPECT_FALSE(name.isEmpty()) << widget->objectName().toStdString();
         }
     }
@@ -365,14 +386,18 @@ TEST(MenuCaptions, AreExactInBothEditions) {
     const CaptionCase cases[] = {
         {"fraGeneral", "General Options", "General Options"},
         {"lblGenOpt1",
-         "Use this to set the default location for teachers to save their data, paths to an external word processor and "
+         "Use this to set the default location for teachers to save their data, paths to an external word processor "
+         "and "
          "student photographs. Setup email, bar coded attendance, grading schemes and more.",
-         "Use this to set the default location for teachers to save their data, paths to an external word processor and "
+         "Use this to set the default location for teachers to save their data, paths to an external word processor "
+         "and "
          "student photographs. Setup email, bar coded attendance, grading schemes and more."},
         {"lblGenOpt2",
-         "Settings are saved in the files 'GW_v11_PRG.CFG and GW_v12_PRG.CFG'. 'Lock' disables the ability of teachers to "
+         "Settings are saved in the files 'GW_v11_PRG.CFG and GW_v12_PRG.CFG'. 'Lock' disables the ability of teachers "
+         "to "
          "alter default settings. ",
-         "Settings are saved in the file 'CrNl7PRG.CFG'. If you choose to 'lock' it, teachers will not be able to alter "
+         "Settings are saved in the file 'CrNl7PRG.CFG'. If you choose to 'lock' it, teachers will not be able to "
+         "alter "
          "default settings and they will not need permission to write (save) to the Carnelle program folder on a "
          "network. "},
         {"lblGenOpt3", "Click the lock to change", "Click the lock to change"},
