@@ -44,6 +44,11 @@ frmImport_SU::frmImport_SU(QWidget* parent)
     Form_Load();
 }
 
+// Hidden while it is still whole: the focus that leaves the field list raises a signal that this window answers.
+frmImport_SU::~frmImport_SU() {
+    hide();
+}
+
 void frmImport_SU::BuildLayout() {
     auto* top = new QHBoxLayout;
     top->setSpacing(Spacing::Gap);

@@ -20,6 +20,7 @@ class frmImport_SU : public OptionsWindow {
 
 public:
     explicit frmImport_SU(QWidget* parent = nullptr);
+    ~frmImport_SU() override;
 
     /// Every caption of the window in a language; loading the window applies English in both editions.
     void SpeakEnglish_ImportSU();
