@@ -1,5 +1,6 @@
 #include "import/PreviewPanel.h"
 
+#include "import/ImportParts.h"
 #include "platform/widgets/Pictures.h"
 #include "platform/widgets/ProgramStyle.h"
 
@@ -11,30 +12,16 @@ constexpr int PictureSize = 24;
 constexpr int BarWidth = 220;
 constexpr int SmallGap = 4;
 
-QLabel* NewLabel(QWidget* parent, const char* name) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(QString::fromLatin1(name));
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-QPushButton* NewButton(QWidget* parent, const char* name) {
-    auto* button = new QPushButton(parent);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setAutoDefault(false);
-    return button;
-}
-
 } // namespace
 
 PreviewPanel::PreviewPanel(QWidget* parent)
-    : QWidget(parent), lblHelp1(NewLabel(this, "lblHelp1")), grdImport(new ImportGrid(this)),
-      lblFields(NewLabel(this, "lblFields")), pnlFieldList(new FieldListPanel(this)),
-      spnRecords(new RecordSpinner(this)), lblRecordCount(NewLabel(this, "lblRecordCount")),
-      lblMatched(NewLabel(this, "lblMatched")), imgLoading(NewLabel(this, "imgLoading")),
-      prgLoading(new QProgressBar(this)), cmdClearMatch(NewButton(this, "cmdClearMatch")),
-      cmdClearAll(NewButton(this, "cmdClearAll")), lblHelp3(NewLabel(this, "lblHelp3")),
-      lblNotice(NewLabel(this, "lblNotice")) {
+    : QWidget(parent), lblHelp1(NewImportLabel(this, "lblHelp1")), grdImport(new ImportGrid(this)),
+      lblFields(NewImportLabel(this, "lblFields")), pnlFieldList(new FieldListPanel(this)),
+      spnRecords(new RecordSpinner(this)), lblRecordCount(NewImportLabel(this, "lblRecordCount")),
+      lblMatched(NewImportLabel(this, "lblMatched")), imgLoading(NewImportLabel(this, "imgLoading")),
+      prgLoading(new QProgressBar(this)), cmdClearMatch(NewImportButton(this, "cmdClearMatch")),
+      cmdClearAll(NewImportButton(this, "cmdClearAll")), lblHelp3(NewImportLabel(this, "lblHelp3")),
+      lblNotice(NewImportLabel(this, "lblNotice")) {
     imgLoading->setPixmap(Picture(QStringLiteral("hourglass")).pixmap(QSize(PictureSize, PictureSize)));
     imgLoading->setAccessibleName(QStringLiteral("The import file is being read"));
     prgLoading->setObjectName(QStringLiteral("prgLoading"));

@@ -2,6 +2,7 @@
 
 #include "app/CFG_2015.h"
 #include "import/ImportCaptions.h"
+#include "import/ImportParts.h"
 #include "platform/widgets/ProgramStyle.h"
 
 #include <QCloseEvent>
@@ -12,28 +13,14 @@ namespace {
 
 constexpr int SmallGap = 6;
 
-QLabel* NewText(QWidget* parent, const char* name) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(QString::fromLatin1(name));
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-QPushButton* NewButton(QWidget* parent, const char* name) {
-    auto* button = new QPushButton(parent);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setAutoDefault(false);
-    return button;
-}
-
 } // namespace
 
 frmImport_SU::frmImport_SU(QWidget* parent)
-    : OptionsWindow("frmImport_SU", parent), cmdOpen(NewButton(this, "cmdOpen")), lblFileName(new PathLabel(this)),
-      preview(new PreviewPanel(this)), pnlUpdateOpts(new UpdateOptionsPanel(this)), pnlDOB(new QGroupBox(this)),
-      cboDOB(new DropDownList(pnlDOB)), lblDOBInstr(NewText(pnlDOB, "lblDOBInstr")),
-      lblHelp2(NewText(this, "lblHelp2")), cmdSave(NewButton(this, "cmdSave")),
-      cmdExitImport(NewButton(this, "cmdExitImport")) {
+    : OptionsWindow("frmImport_SU", parent), cmdOpen(NewImportButton(this, "cmdOpen")),
+      lblFileName(new PathLabel(this)), preview(new PreviewPanel(this)), pnlUpdateOpts(new UpdateOptionsPanel(this)),
+      pnlDOB(new QGroupBox(this)), cboDOB(new DropDownList(pnlDOB)), lblDOBInstr(NewImportLabel(pnlDOB, "lblDOBInstr")),
+      lblHelp2(NewImportLabel(this, "lblHelp2")), cmdSave(NewImportButton(this, "cmdSave")),
+      cmdExitImport(NewImportButton(this, "cmdExitImport")) {
     lblFileName->setObjectName(QStringLiteral("lblFileName"));
     pnlDOB->setObjectName(QStringLiteral("pnlDOB"));
     cboDOB->setObjectName(QStringLiteral("cboDOB"));
