@@ -21,7 +21,7 @@ SystemError CopyDamaged(const QString& name) {
     if (!CopiesDue().contains(name)) {
         return {};
     }
-    const SystemError error = CopyDamagedFile(JoinPath(ProgramFolder, name));
+    SystemError error = CopyDamagedFile(JoinPath(ProgramFolder, name));
     if (!error) {
         CopiesDue().removeAll(name);
     }

@@ -13,7 +13,7 @@ QString FreeCopyName(const QString& path) {
     const QDateTime now = TheDesktop().Now();
     for (int later = 0; later < MostCopies; ++later) {
         const QString time = now.addSecs(later).toString(QStringLiteral("yyyyMMdd-HHmmss"));
-        const QString name = path + QStringLiteral(".damaged-") + time;
+        QString name = path + QStringLiteral(".damaged-") + time;
         if (LookForFile(name) == FilePresence::Missing) {
             return name;
         }

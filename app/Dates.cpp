@@ -17,7 +17,6 @@ std::int16_t LeapYear = 0;
 namespace {
 
 constexpr std::int16_t MonthFirstFormat = 5; // Mar. 7, 2016
-constexpr std::int16_t DayFirstFormat = 6;   // 7 Mar. 2016
 constexpr std::size_t May = 5;               // its three letters are its whole name
 
 QString Digits(int number, int width) {

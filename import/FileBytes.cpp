@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::int64_t WindowSize = 64 * 1024;
+constexpr std::int64_t WindowSize = std::int64_t{64} * 1024;
 constexpr std::int64_t CountedSize = 4096; // lines are counted by so many bytes before they are looked at singly
 
 const char* FindIn(const char* bytes, char byte, std::int64_t size) {

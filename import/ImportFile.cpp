@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::int64_t PieceSize = 128 * 1024;
+constexpr std::int64_t PieceSize = std::int64_t{128} * 1024;
 constexpr auto ProgressInterval = std::chrono::milliseconds(40);
 
 // Asks the callback whether to go on, but not after every piece.
@@ -38,7 +38,7 @@ ImportFile::ImportFile(QString pathToUse) : path(std::move(pathToUse)) {}
 
 SystemError ImportFile::ReadFirst(ImportRecord& record) const {
     RandomAccessFile file;
-    if (const SystemError error = file.Open(path)) {
+    if (SystemError error = file.Open(path)) {
         return error;
     }
     if (file.Stamp().Size == 0) {

@@ -14,9 +14,9 @@ public:
     };
 
     /// A mark is set when at least `spacing` bytes have passed since the last one; with too many marks it doubles.
-    explicit LineIndex(std::int64_t spacing = 256 * 1024, std::size_t markLimit = 65536);
+    explicit LineIndex(std::int64_t spacing = std::int64_t{256} * 1024, std::size_t markLimit = 65536);
 
-    void Add(const char* bytes, std::int64_t size);
+    void Add(const char* bytes, std::int64_t count);
 
     /// The lines of the bytes given so far.
     std::int64_t LineCount() const { return ends + (size > 0 && !IsEnd(last) ? 1 : 0); }

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::int64_t PieceSize = 64 * 1024;
+constexpr std::int64_t PieceSize = std::int64_t{64} * 1024;
 
 // All bytes, or those of the whole lines before the place where the reading failed; false when it failed.
 bool ReadBytes(const QString& path, QByteArray& bytes) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "import/FieldMatching.h"
-#include "platform/widgets/PathLabel.h"
 #include "import/ImportFile.h"
 #include "import/PreviewPanel.h"
 #include "import/ReadingGuard.h"
@@ -9,6 +8,7 @@
 #include "platform/widgets/Captions.h"
 #include "platform/widgets/DropDownList.h"
 #include "platform/widgets/OptionsWindow.h"
+#include "platform/widgets/PathLabel.h"
 
 #include <QPointer>
 #include <memory>

@@ -84,8 +84,8 @@ std::ptrdiff_t ContainedBy(const NativePath& drive, const NativePath& path) {
 
 } // namespace
 
-MappedVolumes::MappedVolumes(SystemCalls& callsToUse, DriveTable table) : calls(callsToUse) {
-    for (auto drive = table.constBegin(); drive != table.constEnd(); ++drive) {
+MappedVolumes::MappedVolumes(SystemCalls& callsToUse, const DriveTable& drivesToUse) : calls(callsToUse) {
+    for (auto drive = drivesToUse.constBegin(); drive != drivesToUse.constEnd(); ++drive) {
         drives.insert(drive.key().toLower(), Normal(drive.value()));
     }
 }

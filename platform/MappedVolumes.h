@@ -11,7 +11,7 @@ using DriveTable = QMap<QChar, NativePath>;
 class MappedVolumes : public Volumes {
 public:
     /// `calls` stays the caller's and is asked for every look at the disk.
-    MappedVolumes(SystemCalls& calls, DriveTable drives);
+    MappedVolumes(SystemCalls& calls, const DriveTable& drives);
 
     QStringList Drives() const override;
     NativeResult ToNative(const QString& path) const override;

@@ -34,7 +34,7 @@ SystemError RandomAccessFile::Open(const QString& path) {
         return native.Error;
     }
     FileStamp found;
-    if (const SystemError error = LookAt(TheDesktop().TheSystemCalls(), native.Path, found)) {
+    if (SystemError error = LookAt(TheDesktop().TheSystemCalls(), native.Path, found)) {
         return error;
     }
     const int opened = TheDesktop().TheSystemCalls().OpenForReading(native.Path);

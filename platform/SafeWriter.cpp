@@ -160,7 +160,7 @@ SystemError ReplaceTarget(SystemCalls& calls, OpenFile& open, const NativePath& 
 
 SystemError SafeSave(SystemCalls& calls, const NativePath& path, const QByteArray& bytes) {
     Target target{path.has_parent_path() ? path : "." / path, false, {}};
-    if (const SystemError error = FindTarget(calls, target)) {
+    if (SystemError error = FindTarget(calls, target)) {
         return error;
     }
     RemoveLeftovers(calls, target.Path);

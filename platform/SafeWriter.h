@@ -13,4 +13,4 @@
 /// no new file be made but the file itself can be written, it is written in place. Temporary files that a killed run
 /// left for this target are removed first. Returns the error as a value, with the temporary file gone and the old file
 /// whole: 76 when the folder is missing, 75 for a folder in place of the file.
-SystemError SafeSave(SystemCalls& calls, const NativePath& target, const QByteArray& bytes);
+SystemError SafeSave(SystemCalls& calls, const NativePath& path, const QByteArray& bytes);

@@ -4,6 +4,10 @@
 BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgtest-dev fonts-dejavu-core fonts-liberation2"
 # A virtual screen, a window manager for it, and real key and mouse events.
 SCREEN_PACKAGES="xvfb xauth openbox xdotool"
+# What checks the sources: formatting, clang-tidy, and the script that runs it.
+CHECK_PACKAGES="clang-format-14 clang-tidy-14 python3"
+# The compiler of the fuzzers.
+FUZZ_PACKAGES="clang-14"
 # Compiler, test library and packer of the Windows programs, and what runs them here (the 64-bit loader is enough).
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix googletest zip"
 WINE_PACKAGES="wine wine64 fonts-wine"

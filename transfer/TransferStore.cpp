@@ -37,14 +37,14 @@ bool LoadTransferFile(const QString& name, TransferSettings& settings) {
 SystemError SaveTransferFile(const QString& name, const TransferSettings& settings, const QString& systemName) {
     const QString path = JoinPath(ProgramFolder, name);
     if (DamagedPath() == path) {
-        if (const SystemError error = CopyDamagedFile(path)) {
+        if (SystemError error = CopyDamagedFile(path)) {
             return error;
         }
         DamagedPath().clear();
     }
     TransferSettings saved = settings;
     saved.TransferLock = TransferLock;
-    if (const SystemError error = SaveWholeFile(path, WriteTransferText(saved, TitleLine, VersionText, systemName))) {
+    if (SystemError error = SaveWholeFile(path, WriteTransferText(saved, TitleLine, VersionText, systemName))) {
         return error;
     }
     DeleteWholeFile(JoinPath(ProgramFolder, QString::fromUtf16(DestinationPathFile))); // it may well not be there

@@ -49,8 +49,7 @@ public:
 
     NativePath ShortName(const NativePath& folder) const override {
         std::wstring name(folder.native().size() + MAX_PATH, L'\0');
-        const DWORD size =
-            GetShortPathNameW(NameForCall(folder).c_str(), name.data(), static_cast<DWORD>(name.size()));
+        const DWORD size = GetShortPathNameW(NameForCall(folder).c_str(), name.data(), static_cast<DWORD>(name.size()));
         name.resize(size < name.size() ? size : 0);
         return name.empty() ? folder : WithoutPrefix(name);
     }

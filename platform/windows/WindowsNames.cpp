@@ -26,8 +26,8 @@ bool IsDevice(const QString& name) {
     if (base.size() == 4 && (base.startsWith(QStringLiteral("COM")) || base.startsWith(QStringLiteral("LPT")))) {
         return QStringLiteral("123456789\u00B9\u00B2\u00B3").contains(base[3]);
     }
-    static const QStringList devices = {QStringLiteral("CON"),    QStringLiteral("PRN"),    QStringLiteral("AUX"),
-                                        QStringLiteral("NUL"),    QStringLiteral("CONIN$"), QStringLiteral("CONOUT$"),
+    static const QStringList devices = {QStringLiteral("CON"),   QStringLiteral("PRN"),    QStringLiteral("AUX"),
+                                        QStringLiteral("NUL"),   QStringLiteral("CONIN$"), QStringLiteral("CONOUT$"),
                                         QStringLiteral("CLOCK$")};
     return devices.contains(base);
 }
@@ -56,7 +56,8 @@ WindowsPath SplitWindowsPath(const QString& path) {
         split.Root = ShareRoot(path);
     }
     const qsizetype rootLength = split.OnShare() ? split.Root.size() : DriveRootLength;
-    const QStringList parts = split.Root.isEmpty() ? QStringList() : path.mid(rootLength).split(u'\\', Qt::SkipEmptyParts);
+    const QStringList parts =
+        split.Root.isEmpty() ? QStringList() : path.mid(rootLength).split(u'\\', Qt::SkipEmptyParts);
     for (const QString& part : parts) {
         if (part == QStringLiteral("..")) {
             if (!split.Components.isEmpty()) {

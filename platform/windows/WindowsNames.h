@@ -18,6 +18,6 @@ struct WindowsPath {
 /// Takes a path apart. A drive without a backslash behind it ("c:marks") has no root here.
 WindowsPath SplitWindowsPath(const QString& path);
 
-/// Whether Windows makes a file or folder of exactly this name: no character that it refuses or reads as something else,
-/// no name of a device (with or without an extension), no dot or blank at the end, 255 characters at most.
+/// Whether Windows makes a file or folder of exactly this name: no character that it refuses or reads as something
+/// else, no name of a device (with or without an extension), no dot or blank at the end, 255 characters at most.
 bool IsPlainName(const QString& name);

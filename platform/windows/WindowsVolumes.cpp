@@ -77,8 +77,7 @@ Volumes::ProgramResult WindowsVolumes::FromNative(const NativePath& path) const 
     }
     const bool fits = std::all_of(split.Components.begin(), split.Components.end(), NameFitsProgramPath);
     const bool rootFits = !split.OnShare() || NameFitsProgramPath(NameOf(split.Root));
-    return fits && rootFits ? ProgramResult{split.Text(), {}}
-                            : ProgramResult{{}, MakeError(ErrorNumber::BadFileName)};
+    return fits && rootFits ? ProgramResult{split.Text(), {}} : ProgramResult{{}, MakeError(ErrorNumber::BadFileName)};
 }
 
 Volumes::FolderResult WindowsVolumes::ListFolders(const QString& path) const {

@@ -93,7 +93,7 @@ SeenScreen RunningProgram::Await(const QString& what, const std::function<bool(c
     QElapsedTimer clock;
     clock.start();
     for (;;) {
-        const SeenScreen seen = Look();
+        SeenScreen seen = Look();
         if (condition(seen)) {
             return seen;
         }

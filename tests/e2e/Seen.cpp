@@ -33,7 +33,7 @@ SeenWindow WindowOf(const QJsonObject& described) {
     window.Title = described[QStringLiteral("title")].toString();
     window.Active = described[QStringLiteral("active")].toBool();
     window.Place = RectangleOf(described[QStringLiteral("place")]);
-    for (const QJsonValue& control : described[QStringLiteral("controls")].toArray()) {
+    for (const auto& control : described[QStringLiteral("controls")].toArray()) {
         window.Controls.append(ControlOf(control.toObject()));
     }
     return window;
@@ -94,7 +94,7 @@ SeenScreen ReadAnswer(const QByteArray& line) {
         throw std::runtime_error("The program wrote to its standard output: " + line.toStdString());
     }
     SeenScreen screen;
-    for (const QJsonValue& window : answer[QStringLiteral("windows")].toArray()) {
+    for (const auto& window : answer[QStringLiteral("windows")].toArray()) {
         screen.Windows.append(WindowOf(window.toObject()));
     }
     return screen;

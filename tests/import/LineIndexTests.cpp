@@ -1,5 +1,5 @@
-#include "import/LineIndex.h"
 #include "import/ByteScans.h"
+#include "import/LineIndex.h"
 
 #include <QByteArray>
 #include <gtest/gtest.h>

@@ -39,12 +39,11 @@ TEST(SystemError, EveryErrorOfTheSystemHasANumber) {
         int Code;
         int Number;
     } cases[] = {
-        {0, 0},       {ENOENT, 53},  {EIO, 57},     {ENOSPC, 61},       {EFBIG, 61},
-        {EMFILE, 67}, {ENFILE, 67},  {ENODEV, 68},  {ENXIO, 68},        {EACCES, 70}, {EPERM, 70},
-        {EROFS, 70},  {EBUSY, 70},   {ETXTBSY, 70}, {ENAMETOOLONG, 52}, {EINVAL, 52}, {EILSEQ, 52},
-        {ELOOP, 52},  {ENOTDIR, 76}, {EISDIR, 75},  {EEXIST, 75},       {EXDEV, 75},  {EINTR, 75},
-        {ENOMEM, 75}, {ENOTSUP, 75}, {EAGAIN, 75},  {99999, 75},        {-1, 75},
-        {NoDiskInDrive, 71},
+        {0, 0},        {ENOENT, 53},  {EIO, 57},          {ENOSPC, 61}, {EFBIG, 61},         {EMFILE, 67},
+        {ENFILE, 67},  {ENODEV, 68},  {ENXIO, 68},        {EACCES, 70}, {EPERM, 70},         {EROFS, 70},
+        {EBUSY, 70},   {ETXTBSY, 70}, {ENAMETOOLONG, 52}, {EINVAL, 52}, {EILSEQ, 52},        {ELOOP, 52},
+        {ENOTDIR, 76}, {EISDIR, 75},  {EEXIST, 75},       {EXDEV, 75},  {EINTR, 75},         {ENOMEM, 75},
+        {ENOTSUP, 75}, {EAGAIN, 75},  {99999, 75},        {-1, 75},     {NoDiskInDrive, 71},
     };
 #ifdef EDQUOT
     EXPECT_EQ(ErrorFromErrno(EDQUOT).Number, 61);
