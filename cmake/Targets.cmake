@@ -19,8 +19,11 @@ endif()
 if(GRADEWELL_SANITIZE)
     target_compile_options(gradewell_flags INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
-        -Wno-error=maybe-uninitialized)  # GCC 12 reports false positives in Qt's headers under the sanitizers
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-error=maybe-uninitialized>)  # false positives in Qt's headers under the sanitizers
     target_link_options(gradewell_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(GRADEWELL_FUZZ)
+    target_compile_options(gradewell_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(GRADEWELL_COVERAGE)
     target_compile_options(gradewell_flags INTERFACE --coverage)

@@ -43,6 +43,6 @@ SchemeReading ReadSchemeText(const QByteArray& bytes);
 /// The bytes of a scheme file: quoted lines, CR LF. No text may hold a double quote.
 QByteArray WriteSchemeText(const Scheme& scheme);
 
-/// The number that a text begins with: blanks are passed over, then sign, digits, fraction and exponent; 0 when there
-/// is none.
+/// The number that a text begins with: sign, digits, fraction and exponent (E or D); 0 when there is none. Blanks, tabs
+/// and line ends are passed over wherever they stand.
 double LeadingNumber(const QString& text);

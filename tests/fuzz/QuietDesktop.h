@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/Desktop.h"
+
+/// A desktop for routines that show nothing but message boxes: counts them and answers OK. Installed while it lives.
+class QuietDesktop : public Desktop {
+public:
+    QuietDesktop();
+    ~QuietDesktop() override;
+    QuietDesktop(const QuietDesktop&) = delete;
+    QuietDesktop& operator=(const QuietDesktop&) = delete;
+
+    int Shown = 0;
+
+    MessageAnswer ShowMessage(const Message& message) override;
+    FileDialogAnswer AskForFile(const FileDialog& dialog) override;
+    FontDialogAnswer AskForFont(const QString& fontName, int pointSize) override;
+    SystemError StartProgram(HelperProgram program, const QString& path) override;
+    QSize ScreenSize() override;
+    bool SetPrinterFont(const QString& fontName) override;
+    void ProcessPendingEvents() override;
+    QDateTime Now() override;
+    Volumes& TheVolumes() override;
+    SystemCalls& TheSystemCalls() override;
+
+private:
+    Desktop* before;
+};
