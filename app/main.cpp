@@ -26,8 +26,9 @@ int main(int argc, char** argv) {
     ProgramStyle::Install();
     const NativePath executableFolder(QCoreApplication::applicationDirPath().toStdU16String());
     ProgramDrives drives = OpenProgramDrives(RealSystemCalls(), executableFolder);
-    QtDesktop desktop(std::move(drives.TheVolumes), RealSystemCalls());
-    InstallDesktop(&desktop);
+    // Never destroyed: a thread that hangs in a read of a stalled share may still need it when the program ends.
+    static auto* const desktop = new QtDesktop(std::move(drives.TheVolumes), RealSystemCalls());
+    InstallDesktop(desktop);
     const frmCFG_IconOnly icon;
     QApplication::setWindowIcon(icon.windowIcon());
     for (const QString& complaint : drives.Complaints) {

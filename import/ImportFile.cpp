@@ -1,16 +1,18 @@
 #include "import/ImportFile.h"
 
 #include "import/FileBytes.h"
+#include "import/PieceReader.h"
 #include "import/Utf8Suspicion.h"
+#include "platform/Desktop.h"
+#include "platform/Volumes.h"
 
 #include <chrono>
 #include <utility>
-#include <vector>
 
 namespace {
 
-constexpr std::int64_t PieceSize = std::int64_t{128} * 1024;
 constexpr auto ProgressInterval = std::chrono::milliseconds(40);
+constexpr int LongestWait = 20; // milliseconds without a word to the callback
 
 // Asks the callback whether to go on, but not after every piece.
 class PacedProgress {
@@ -32,74 +34,93 @@ private:
     std::chrono::steady_clock::time_point next;
 };
 
-} // namespace
+using RecordReading = ImportFile::RecordReading;
 
-ImportFile::ImportFile(QString pathToUse) : path(std::move(pathToUse)) {}
+RecordReading Failure(const SystemError& error) {
+    return {{ImportFile::Outcome::Failed, error}, {}};
+}
 
-SystemError ImportFile::ReadFirst(ImportRecord& record) const {
+RecordReading ReadFirst(const QString& path) {
     RandomAccessFile file;
-    if (SystemError error = file.Open(path)) {
-        return error;
+    if (const SystemError error = file.Open(path)) {
+        return Failure(error);
     }
-    if (file.Stamp().Size == 0) {
-        return MakeError(ErrorNumber::InputPastEnd);
+    const std::int64_t size = file.Stamp().Size;
+    if (size == 0) {
+        return Failure(MakeError(ErrorNumber::InputPastEnd));
     }
     FileBytes bytes(file);
-    record = SplitImportRecord(bytes, 0, bytes.LineEnd(0, file.Stamp().Size));
-    return bytes.Error();
+    ImportRecord record = SplitImportRecord(bytes, 0, bytes.LineEnd(0, size));
+    return bytes.Error() ? Failure(bytes.Error()) : RecordReading{{}, std::move(record)};
+}
+
+struct RecordPlace {
+    LineIndex::Mark Mark;
+    std::int64_t Number = 1;
+    FileStamp Stamp; // of the file that the mark belongs to
+};
+
+RecordReading ReadRecord(const QString& path, const RecordPlace& wanted) {
+    RandomAccessFile file;
+    if (const SystemError error = file.Open(path)) {
+        return Failure(error);
+    }
+    if (file.Stamp() != wanted.Stamp) {
+        return {{ImportFile::Outcome::Changed, {}}, {}};
+    }
+    FileBytes bytes(file);
+    const std::int64_t end = wanted.Stamp.Size;
+    const std::int64_t start = bytes.PassLines(wanted.Mark.Place, wanted.Number - wanted.Mark.Line, end);
+    ImportRecord record = SplitImportRecord(bytes, start, bytes.LineEnd(start, end));
+    if (bytes.Error()) {
+        const bool shrunk = bytes.Error() == MakeError(ErrorNumber::InputPastEnd);
+        return {{shrunk ? ImportFile::Outcome::Changed : ImportFile::Outcome::Failed, bytes.Error()}, {}};
+    }
+    return {{}, std::move(record)};
+}
+
+} // namespace
+
+// A path without its root would be looked up from the drive's current folder, which may change meanwhile.
+ImportFile::ImportFile(const QString& pathToUse)
+    : path(pathToUse.isEmpty() ? pathToUse : TheDesktop().TheVolumes().WholePath(pathToUse)) {}
+
+ImportFile::Reader ImportFile::ReaderOfFirst() const {
+    return [file = path] { return ReadFirst(file); };
 }
 
 ImportFile::Result ImportFile::Count(const Progress& progress) {
     index = LineIndex();
-    stamp = FileStamp();
-    counted = 0;
-    recordCount = 0;
     looksLikeUtf8 = false;
-    RandomAccessFile file;
-    if (const SystemError error = file.Open(path)) {
-        return {Outcome::Failed, error};
-    }
-    stamp = file.Stamp();
     Result result;
     Utf8Suspicion utf8;
     PacedProgress paced(progress);
-    std::vector<char> piece(PieceSize);
-    std::int64_t got = PieceSize;
-    while (got == PieceSize && result.What == Outcome::Done) {
-        if (const SystemError error = file.ReadAt(counted, piece.data(), PieceSize, got)) {
-            result = {Outcome::Failed, error};
-        }
-        index.Add(piece.data(), got);
-        utf8.Add(piece.data(), got);
-        counted += got;
-        if (result.What == Outcome::Done && got == PieceSize && !paced.MayGoOn(counted, stamp.Size)) {
+    PieceReader reader(path);
+    std::int64_t counted = 0;
+    PieceReader::Piece piece;
+    while (piece.What != PieceReader::State::Ended && result.What == Outcome::Done) {
+        piece = reader.Next(LongestWait);
+        index.Add(piece.Bytes, piece.Size);
+        utf8.Add(piece.Bytes, piece.Size);
+        counted += piece.Size;
+        if (piece.What != PieceReader::State::Ended && !paced.MayGoOn(counted, reader.Stamp().Size)) {
             result.What = Outcome::Stopped;
         }
     }
-    recordCount = index.LineCount();
+    stamp = reader.Stamp();
+    if (result.What == Outcome::Stopped && counted > 0 && counted == stamp.Size) {
+        result.What = Outcome::Done; // there was nothing left to stop
+    }
     looksLikeUtf8 = utf8.Suspected();
-    if (result.What == Outcome::Done) {
+    if (result.What == Outcome::Done && reader.Error()) {
+        result = {Outcome::Failed, reader.Error()};
+    } else if (result.What == Outcome::Done) {
         stamp.Size = counted; // a file that grew meanwhile is noticed by its time
     }
     return result;
 }
 
-ImportFile::Result ImportFile::Read(std::int64_t number, ImportRecord& record) const {
-    RandomAccessFile file;
-    if (const SystemError error = file.Open(path)) {
-        return {Outcome::Failed, error};
-    }
-    if (file.Stamp() != stamp) {
-        return {Outcome::Changed, {}};
-    }
-    FileBytes bytes(file);
-    const LineIndex::Mark mark = index.MarkBefore(number);
-    const std::int64_t start = bytes.PassLines(mark.Place, number - mark.Line, stamp.Size);
-    ImportRecord found = SplitImportRecord(bytes, start, bytes.LineEnd(start, stamp.Size));
-    if (bytes.Error()) {
-        const bool shrunk = bytes.Error() == MakeError(ErrorNumber::InputPastEnd);
-        return {shrunk ? Outcome::Changed : Outcome::Failed, bytes.Error()};
-    }
-    record = std::move(found);
-    return {};
+ImportFile::Reader ImportFile::ReaderOf(std::int64_t number) const {
+    const RecordPlace place{index.MarkBefore(number), number, stamp};
+    return [file = path, place] { return ReadRecord(file, place); };
 }

@@ -11,7 +11,8 @@
 /// are kept. The file is open only while it is read, so others may write to it in between; that is noticed.
 class ImportFile {
 public:
-    /// Called several times while the lines are counted, with the bytes read and those there are; false stops.
+    /// Called several times while the lines are counted, also while a read hangs, with the bytes read and those there
+    /// are (0 as long as the file has not been opened); false stops.
     using Progress = std::function<bool(std::int64_t read, std::int64_t size)>;
 
     enum class Outcome {
@@ -26,20 +27,28 @@ public:
         SystemError Error;
     };
 
-    /// `path` is in the program's form. Nothing is read yet.
-    explicit ImportFile(QString path = QString());
+    struct RecordReading {
+        Result Came;
+        ImportRecord Record; ///< only when it came
+    };
 
-    /// Reads the first record. Number 62 for an empty file.
-    SystemError ReadFirst(ImportRecord& record) const;
+    /// `path` is in the program's form. Nothing is read yet.
+    explicit ImportFile(const QString& path = QString());
+
+    /// Reads a record. It owns all that it needs, so that a thread of its own may do it.
+    using Reader = std::function<RecordReading()>;
+
+    /// The reader of the first record, before the records have been counted. Fails with number 62 for an empty file.
+    Reader ReaderOfFirst() const;
 
     /// Counts the records and finds out what the file looks like.
     Result Count(const Progress& progress);
 
-    /// Reads a record, counted from 1, at most RecordCount().
-    Result Read(std::int64_t number, ImportRecord& record) const;
+    /// The reader of a record, counted from 1, at most RecordCount().
+    Reader ReaderOf(std::int64_t number) const;
 
     /// The records counted so far.
-    std::int64_t RecordCount() const { return recordCount; }
+    std::int64_t RecordCount() const { return index.LineCount(); }
 
     /// Whether the bytes counted so far look like UTF-8 instead of Windows-1252.
     bool LooksLikeUtf8() const { return looksLikeUtf8; }
@@ -47,8 +56,6 @@ public:
 private:
     QString path;
     LineIndex index;
-    FileStamp stamp;          // of the counted file
-    std::int64_t counted = 0; // bytes
-    std::int64_t recordCount = 0;
+    FileStamp stamp; // of the counted file
     bool looksLikeUtf8 = false;
 };

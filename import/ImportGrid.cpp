@@ -17,6 +17,7 @@ constexpr int NumberWidth = 20;
 constexpr int TextWidth = 412;
 constexpr int MatchWidth = 169;
 constexpr int TextMargin = 3;
+constexpr float LineStrength = 0.25F;
 constexpr int LongestDrawn = 160; // characters; no column shows more
 constexpr QChar ShownControl(u'\u00B7');
 
@@ -45,14 +46,24 @@ public:
         const bool isNumber = index.column() == ImportGrid::NumberColumn;
         painter->setFont(option.font);
         painter->setPen(palette.color(isNumber ? QPalette::PlaceholderText : QPalette::Text));
-        const QRect room = isNumber ? option.rect : option.rect.adjusted(TextMargin, 0, -TextMargin, 0);
+        const QRect room = isNumber ? option.rect : option.rect.adjusted(TextMargin, 0, -TextMargin, -1);
         const QString text = Drawn(index.data().toString());
         painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                           isNumber ? text : option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
+        DrawLines(*painter, option);
     }
 
 private:
     ImportGrid* grid;
+
+    // The style's own lines can hardly be seen on a dark ground.
+    static void DrawLines(QPainter& painter, const QStyleOptionViewItem& option) {
+        QColor colour = option.palette.color(QPalette::Text);
+        colour.setAlphaF(LineStrength);
+        const QRect& cell = option.rect;
+        painter.fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), colour);
+        painter.fillRect(QRect(cell.right(), cell.top(), 1, cell.height() - 1), colour);
+    }
 };
 
 } // namespace
@@ -79,9 +90,12 @@ ImportGrid::ImportGrid(QWidget* parent) : QTableWidget(0, 3, parent) {
     setColumnWidth(NumberColumn, NumberWidth);
     setColumnWidth(TextColumn, TextWidth);
     setColumnWidth(MatchColumn, MatchWidth);
-    const int scrollBar = verticalScrollBar()->sizeHint().width();
-    setFixedWidth(NumberWidth + TextWidth + MatchWidth + 2 * frameWidth() + scrollBar);
+    setShowGrid(false);
     SetRows(0);
+}
+
+int ImportGrid::GreatestWidth() const {
+    return NumberWidth + TextWidth + MatchWidth + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
 }
 
 void ImportGrid::SetRows(int count) {
@@ -93,6 +107,7 @@ void ImportGrid::SetRows(int count) {
         SetText(row, TextColumn, QString());
         SetText(row, MatchColumn, QString());
     }
+    setFixedWidth(GreatestWidth() - (count > RowsSeen ? 0 : verticalScrollBar()->sizeHint().width()));
     setFixedHeight(std::min(std::min(count, RowsSeen) * RowHeight + 2 * frameWidth(), GreatestHeight));
     scrollToTop();
 }

@@ -17,6 +17,9 @@ public:
 
     explicit ImportGrid(QWidget* parent = nullptr);
 
+    /// The width with the bar that scrolls more rows than can be seen.
+    int GreatestWidth() const;
+
     /// As many rows as a record has fields, numbered, without matches; at most 15 are seen at once.
     void SetRows(int count);
 

@@ -32,8 +32,13 @@ PreviewPanel::PreviewPanel(QWidget* parent)
     lblFields->setFont(bold);
     lblMatched->setFont(bold);
     lblNotice->setFont(bold);
-    lblHelp1->setWordWrap(true);
-    lblHelp3->setWordWrap(true);
+    lblNotice->hide();
+    for (QLabel* sentence : {lblHelp1, lblHelp3, lblNotice}) {
+        sentence->setWordWrap(true);
+    }
+    for (QLabel* help : {lblHelp1, lblHelp3}) {
+        help->setFont(FieldListPanel::SmallFont(help->font()));
+    }
     BuildLayout();
 }
 
@@ -57,6 +62,7 @@ QLayout* PreviewPanel::BuildTop() {
     places->addWidget(grdImport, 1, 0, Qt::AlignTop);
     places->addWidget(pnlFieldList, 1, 1, Qt::AlignTop);
     places->setRowMinimumHeight(1, ImportGrid::GreatestHeight);
+    places->setColumnMinimumWidth(0, grdImport->GreatestWidth());
     places->setColumnStretch(2, 1);
     return places;
 }
@@ -79,7 +85,7 @@ QLayout* PreviewPanel::BuildRow() {
 void PreviewPanel::ShowLoading(bool loading) {
     imgLoading->setVisible(loading);
     prgLoading->setVisible(loading);
-    prgLoading->setValue(0);
+    prgLoading->setRange(0, 0); // nobody knows yet how long it takes
     if (loading) {
         spnRecords->hide();
         lblRecordCount->hide();
@@ -100,6 +106,11 @@ void PreviewPanel::ShowMatching(const FieldMatching& matching) {
 
 void PreviewPanel::ShowMatchCount(int matches, int fields) {
     lblMatched->setText(QStringLiteral("Matched: %1 of %2").arg(matches).arg(fields));
+}
+
+void PreviewPanel::ShowNotice(const QString& notice) {
+    lblNotice->setText(notice);
+    lblNotice->setVisible(!notice.isEmpty());
 }
 
 void PreviewPanel::MarkNextRow(const FieldMatching& matching) {

@@ -42,6 +42,9 @@ public:
     /// "Matched: 2 of 8".
     void ShowMatchCount(int matches, int fields);
 
+    /// Shows the line about what is odd; an empty one takes no room.
+    void ShowNotice(const QString& notice);
+
     /// Marks the row that the next field goes to, while a field is dragged or has the focus.
     void MarkNextRow(const FieldMatching& matching);
 

@@ -9,44 +9,39 @@ namespace {
 
 constexpr std::int64_t PieceSize = std::int64_t{64} * 1024;
 
-// All bytes, or those of the whole lines before the place where the reading failed; false when it failed.
-bool ReadBytes(const QString& path, QByteArray& bytes) {
+} // namespace
+
+SetupBytes ReadSetupBytes(const QString& setupFile) {
+    SetupBytes read;
     RandomAccessFile file;
-    if (file.Open(path)) {
-        return false;
+    if (file.Open(setupFile)) {
+        return read;
     }
     std::vector<char> piece(PieceSize);
     std::int64_t count = PieceSize;
     while (count == PieceSize) {
-        if (file.ReadAt(bytes.size(), piece.data(), PieceSize, count)) {
-            bytes.append(piece.data(), count);
-            bytes.truncate(std::max(bytes.lastIndexOf('\n'), bytes.lastIndexOf('\r')) + 1);
-            return false;
+        const SystemError error = file.ReadAt(read.Lines.size(), piece.data(), PieceSize, count);
+        read.Lines.append(piece.data(), count);
+        if (error) {
+            read.Lines.truncate(std::max(read.Lines.lastIndexOf('\n'), read.Lines.lastIndexOf('\r')) + 1);
+            return read;
         }
-        bytes.append(piece.data(), count);
     }
-    return true;
+    read.WholeFile = true;
+    return read;
 }
-
-} // namespace
 
 SystemError SaveUpdFieldCFG(const QString& importPath, const QString& setupFileName, const ImportSetup& setup) {
     const QString target = SetupFileBeside(importPath, setupFileName);
     return target.isEmpty() ? SystemError() : SaveWholeFile(target, WriteSetup(setup));
 }
 
-SetupReading ReadUpdFieldCFG(const QString& setupFile, const FieldList& fields, ImportSetup& setup) {
+SetupReading TakeSetupBytes(const SetupBytes& bytes, const FieldList& fields, ImportSetup& setup) {
     setup.ActiveFields = 0;
-    QByteArray bytes;
-    const bool wholeFile = ReadBytes(setupFile, bytes);
-    const bool wholeText = ReadSetup(bytes, setup);
-    if (wholeFile && wholeText) {
-        return {true, CheckMatches(setup, fields)};
+    if (!ReadSetup(bytes.Lines, setup) || !bytes.WholeFile) {
+        return {};
     }
-    if (setup.ActiveFields < 0 || setup.ActiveFields > MatchLimit) {
-        setup.ActiveFields = 0;
-    }
-    return {};
+    return {true, CheckMatches(setup, fields)};
 }
 
 void DeleteUpdFieldCFG(const QString& importPath, const QString& setupFileName) {

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int FieldRows = 4;
 constexpr int RowGap = 1;
+constexpr int SmallGap = 5;
 
 QGroupBox* NewFrame(QWidget* parent, const char* name) {
     auto* frame = new QGroupBox(parent);
@@ -26,8 +27,8 @@ UpdateOptionsPanel::UpdateOptionsPanel(QWidget* parent)
     BuildDelete();
     BuildFields();
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(Spacing::Gap, 0, Spacing::Gap, Spacing::Gap - 2);
-    row->setSpacing(Spacing::Gap);
+    row->setContentsMargins(SmallGap, 0, SmallGap, SmallGap);
+    row->setSpacing(SmallGap);
     row->addWidget(fraDelete);
     row->addWidget(fraUpdateFields, 1);
 }
@@ -60,7 +61,7 @@ void UpdateOptionsPanel::BuildDelete() {
 void UpdateOptionsPanel::BuildFields() {
     auto* places = new QGridLayout(fraUpdateFields);
     places->setContentsMargins(Spacing::Gap, 0, Spacing::Gap, 2);
-    places->setHorizontalSpacing(Spacing::Gap);
+    places->setHorizontalSpacing(SmallGap);
     places->setVerticalSpacing(RowGap);
     for (std::size_t i = 0; i < chkCLUpdFields.size(); ++i) {
         chkCLUpdFields[i] = NewBox(fraUpdateFields, "chkCLUpdFields", i, options.Fields[i]);

@@ -11,6 +11,7 @@
 #include "platform/widgets/PathLabel.h"
 
 #include <QPointer>
+#include <functional>
 #include <memory>
 
 /// The import file setup: shows the student data file record by record and lets the administrator match its columns
@@ -73,19 +74,26 @@ private:
     bool AskForImportFile(QString& path);
     void ReadUpdFieldCFG(const QString& path);
     void LoadUpdateOptions();
-    void ReadImportFile();
-    void BeginReading();
-    void EndReading();
-    ImportFile::Result CountRecords();
-    bool SplitFirstRecord(ImportRecord& record);
+    void ReadImportFile(const QString& path);
     void ShowFirstRecord(const ImportRecord& record);
+    void ShowNoRecord(const ImportFile::Result& why);
     void ShowFieldMatches();
+    void ShowFileNotice(const ImportFile::Result& counted);
+    void cmdOpen_Click();
+
+    // The records (PageRecords.cpp)
     void ShowImportRecord(std::int64_t wanted);
-    void FileHasChanged(std::int64_t wanted);
+    ImportFile::Result FileHasChanged(std::int64_t& wanted, ImportRecord& record);
     void ShowRecord(std::int64_t number, const ImportRecord& record);
     void TellReadingFailure(const SystemError& error);
-    void ShowFileNotice(ImportFile::Outcome outcome);
-    void cmdOpen_Click();
+
+    // The reading, which may take long (PatientReading.cpp)
+    bool ReadPatiently(const std::function<void()>& work);
+    ImportFile::RecordReading ReadRecord(const ImportFile::Reader& reader);
+    ImportFile::Result CountRecords();
+    void BeginReading();
+    void EndReading();
+    void LeaveIfAsked();
 
     // Matching and saving (MatchAndSave.cpp)
     void lblFieldList_MouseDown(int field);

@@ -29,15 +29,16 @@ RandomAccessFile::~RandomAccessFile() {
 
 SystemError RandomAccessFile::Open(const QString& path) {
     Close();
+    calls = &TheDesktop().TheSystemCalls();
     const Volumes::NativeResult native = TheDesktop().TheVolumes().ToNative(path);
     if (native.Error) {
         return native.Error;
     }
     FileStamp found;
-    if (SystemError error = LookAt(TheDesktop().TheSystemCalls(), native.Path, found)) {
+    if (SystemError error = LookAt(*calls, native.Path, found)) {
         return error;
     }
-    const int opened = TheDesktop().TheSystemCalls().OpenForReading(native.Path);
+    const int opened = calls->OpenForReading(native.Path);
     if (opened < 0) {
         return ErrorFromErrno(-opened);
     }
@@ -48,10 +49,9 @@ SystemError RandomAccessFile::Open(const QString& path) {
 }
 
 SystemError RandomAccessFile::ReadAt(std::int64_t offset, char* buffer, std::int64_t size, std::int64_t& count) {
-    SystemCalls& calls = TheDesktop().TheSystemCalls();
     count = 0;
     if (position != offset) {
-        const std::int64_t moved = calls.Seek(handle, offset);
+        const std::int64_t moved = calls->Seek(handle, offset);
         if (moved < 0) {
             position = UnknownPosition;
             return ErrorFromErrno(static_cast<int>(-moved));
@@ -59,7 +59,7 @@ SystemError RandomAccessFile::ReadAt(std::int64_t offset, char* buffer, std::int
     }
     position = offset;
     while (count < size) {
-        const std::int64_t result = calls.Read(handle, buffer + count, size - count);
+        const std::int64_t result = calls->Read(handle, buffer + count, size - count);
         if (result == -EINTR) {
             continue;
         }
@@ -78,7 +78,7 @@ SystemError RandomAccessFile::ReadAt(std::int64_t offset, char* buffer, std::int
 
 void RandomAccessFile::Close() {
     if (handle >= 0) {
-        TheDesktop().TheSystemCalls().Close(handle);
+        calls->Close(handle);
         handle = -1;
     }
 }

@@ -14,7 +14,8 @@ struct FileStamp {
     friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
-/// A file opened for reading at any place, by its path in the program's form. Nothing of it is kept in memory.
+/// A file opened for reading at any place, by its path in the program's form. Nothing of it is kept in memory. Any
+/// thread may use it, one at a time; only Open asks the desktop.
 class RandomAccessFile {
 public:
     RandomAccessFile() = default;
@@ -36,6 +37,7 @@ public:
     void Close();
 
 private:
+    SystemCalls* calls = nullptr; // of the desktop that the file was opened on
     int handle = -1;
     std::int64_t position = 0; // where the system's next read starts; -1 when that is not known
     FileStamp stamp;

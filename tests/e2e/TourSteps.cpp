@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -12,8 +13,20 @@ const QString SecondMailServer = QStringLiteral("mail.school.example");
 } // namespace
 
 TourSteps::TourSteps(const EditionNames& editionToTour, const QString& programFolder, const QString& pictureFolder)
-    : edition(editionToTour), folder(programFolder), pictures(pictureFolder),
+    : edition(editionToTour), folder(programFolder),
+      transferProgram(QDir(programFolder).filePath(editionToTour.TransferProgram)), pictures(pictureFolder),
       program(programFolder, editionToTour.Executable) {}
+
+TourSteps::TransferProgram::TransferProgram(QString fileToMake) : file(std::move(fileToMake)) {
+    QFile missing(file);
+    made = !missing.exists() && missing.open(QIODevice::WriteOnly);
+}
+
+TourSteps::TransferProgram::~TransferProgram() {
+    if (made) {
+        QFile::remove(file);
+    }
+}
 
 void TourSteps::Go() {
     program.AwaitWindow(edition.PrinterTitle);
@@ -24,6 +37,9 @@ void TourSteps::Go() {
     ToggleLock();
     TakePicture(edition.MenuTitle, QStringLiteral("main-menu-lock-changed"));
     VisitGeneralOptions();
+    VisitImport();
+    VisitAdmin();
+    VisitTransfer();
     program.Press(edition.MenuTitle, edition.ExitKeys);
     if (const int status = program.AwaitEnd(); status != 0) {
         throw std::runtime_error("The program ended with status " + std::to_string(status));
@@ -59,10 +75,14 @@ void TourSteps::VisitGeneralOptions() {
         TakePicture(title, QStringLiteral("general-options-") + panels[panel]);
     }
     ChangeDateFormatAndMailServer(title);
-    program.Press(title, edition.SaveKeys);
+    BackToMenu(title, edition.SaveKeys);
+    TakePicture(edition.MenuTitle, QStringLiteral("main-menu-new-date"));
+}
+
+void TourSteps::BackToMenu(const QString& title, const QString& keys) {
+    program.Press(title, keys);
     program.AwaitNoWindow(title);
     program.AwaitWindow(edition.MenuTitle);
-    TakePicture(edition.MenuTitle, QStringLiteral("main-menu-new-date"));
 }
 
 void TourSteps::ChangeDateFormatAndMailServer(const QString& title) {

@@ -3,10 +3,10 @@
 #include "tests/e2e/InstalledProgram.h"
 #include "tests/e2e/RunningProgram.h"
 
-/// A typical run of the program, gone through with real key and mouse events, with a picture of each window on the way.
+/// A typical run of the program, gone through with real key and mouse events, with pictures of every window on the way.
 class TourSteps {
 public:
-    /// `folder` is the program folder, `pictures` the folder of the pictures.
+    /// `folder` is the program folder with the sample files, `pictures` the folder of the pictures.
     TourSteps(const EditionNames& edition, const QString& folder, const QString& pictures);
 
     /// Goes from the start of the program to its end; throws when a step does not come about.
@@ -16,8 +16,20 @@ public:
     QStringList Pictures() const { return taken; }
 
 private:
+    /// The menu offers the Transfer area only where its program lies; for the tour, an empty file does.
+    class TransferProgram {
+    public:
+        explicit TransferProgram(QString file);
+        ~TransferProgram();
+
+    private:
+        QString file;
+        bool made = false;
+    };
+
     EditionNames edition;
     QString folder;
+    TransferProgram transferProgram;
     QString pictures;
     QStringList taken;
     RunningProgram program;
@@ -26,4 +38,12 @@ private:
     void ToggleLock();
     void VisitGeneralOptions();
     void ChangeDateFormatAndMailServer(const QString& title);
+    void BackToMenu(const QString& title, const QString& keys);
+
+    // The other windows (TourWindows.cpp)
+    void VisitImport();
+    void PassFileOfSettings(const QString& title);
+    void MatchFields(const QString& title);
+    void VisitAdmin();
+    void VisitTransfer();
 };

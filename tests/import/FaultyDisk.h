@@ -2,9 +2,13 @@
 
 #include "platform/SystemCalls.h"
 
+#include <atomic>
 #include <cerrno>
+#include <condition_variable>
+#include <mutex>
 
-/// The system's own calls, except that reading and writing can be made to fail.
+/// The system's own calls, except that reading and writing can be made to fail, and reading to hang as that of a
+/// stalled share does.
 class FaultyDisk : public SystemCalls {
 public:
     int ReadFailure = 0; ///< errno value of every read from ReadsBeforeFailure on
@@ -12,7 +16,24 @@ public:
     int WriteFailure = 0;               ///< errno value of every write
     std::int64_t LongestRead = 1 << 30; ///< reads return no more bytes than this
     int Interruptions = 0;              ///< so many reads are interrupted first
-    std::int64_t BytesRead = 0;
+    std::atomic<std::int64_t> BytesRead = 0;
+
+    /// After so many more reads, the next ones hang.
+    void StallAfter(int reads) {
+        const std::lock_guard guard(lock);
+        readsBeforeStall = reads;
+    }
+    /// Reads that hang come back, and no more will hang.
+    void Recover() {
+        const std::lock_guard guard(lock);
+        readsBeforeStall = -1;
+        recovered.notify_all();
+    }
+    /// Whether a read hangs now.
+    bool IsStalled() {
+        const std::lock_guard guard(lock);
+        return hanging > 0;
+    }
 
     int Status(const NativePath& path, FileStatus& status) override { return real.Status(path, status); }
     int ReadLink(const NativePath& path, NativePath& target) override { return real.ReadLink(path, target); }
@@ -21,6 +42,7 @@ public:
     int CreateExclusive(const NativePath& path, unsigned mode) override { return real.CreateExclusive(path, mode); }
 
     std::int64_t Read(int handle, char* buffer, std::int64_t size) override {
+        HangWhileStalled();
         if (Interruptions > 0) {
             --Interruptions;
             return -EINTR;
@@ -54,4 +76,16 @@ public:
 
 private:
     SystemCalls& real = RealSystemCalls();
+    std::mutex lock;
+    std::condition_variable recovered;
+    int readsBeforeStall = -1; // never
+    int hanging = 0;
+
+    void HangWhileStalled() {
+        std::unique_lock guard(lock);
+        ++hanging;
+        recovered.wait(guard, [this] { return readsBeforeStall != 0; });
+        --hanging;
+        readsBeforeStall -= readsBeforeStall > 0 ? 1 : 0;
+    }
 };

@@ -153,6 +153,15 @@ TEST(FieldMatchingTest, ShowsAStoredSetup) {
     EXPECT_EQ(Text("DOB (Mth/Day/Year)"), matching.Name(2));
 }
 
+TEST(FieldMatchingTest, ClearLastFreesTheBirthDateWhateverItsEntrySays) {
+    FieldMatching matching = WithRows(3);
+    matching.ShowStored(Stored({Text("5"), Text("dob (YearMMDD)"), Text("DOB (DDMMYear)")}), 2);
+    EXPECT_TRUE(matching.IsUsed(DobField));
+    EXPECT_TRUE(matching.ClearLast());
+    EXPECT_FALSE(matching.IsUsed(DobField));
+    EXPECT_EQ(QStringList({Text("dob (YearMMDD)")}), Names(matching));
+}
+
 TEST(FieldMatchingTest, ShowsNoMoreMatchesThanRows) {
     FieldMatching matching = WithRows(2);
     matching.ShowStored(Stored({Text("9"), Text("Last Name"), Text("First Name"), Text("Gender")}), 3);

@@ -90,9 +90,29 @@ TEST_F(ImportCaptionsTest, KeepsTheFrenchTableComplete) {
     EXPECT_EQ(std::size(Rows), ImportCaptions().size());
 }
 
-TEST_F(ImportCaptionsTest, FitsItsSize) {
+TEST_F(ImportCaptionsTest, FitsItsSizeInBothLanguages) {
     OpenWith(QByteArray("x,").repeated(24));
+    EXPECT_EQ(QSize(800, 600), window->minimumSize());
     EXPECT_EQ(QSize(800, 600), window->size());
+    window->hide();
+    window->SpeakFrench_ImportSU();
+    window->show();
+    EXPECT_EQ(QSize(800, 600), window->minimumSize());
+    EXPECT_EQ(QSize(800, 600), window->size());
+}
+
+TEST_F(ImportCaptionsTest, FitsItsSizeWithANotice) {
+    OpenWith("\xEF\xBB\xBF" + QByteArray("x,").repeated(24));
+    EXPECT_TRUE(Find("lblNotice")->isVisible());
+    EXPECT_EQ(QSize(800, 600), window->size());
+    window->hide();
+    window->show();
+    EXPECT_EQ(QSize(800, 600), window->minimumSize());
+    EXPECT_EQ(QSize(800, 600), window->size());
+}
+
+TEST_F(ImportCaptionsTest, PutsEverythingInItsPlace) {
+    OpenWith(QByteArray("x,").repeated(24));
     for (const QWidget* child : window->findChildren<QWidget*>()) {
         if (child->isVisible() && child->parentWidget() == window.get()) {
             EXPECT_TRUE(window->rect().contains(child->geometry())) << child->objectName().toStdString();
@@ -105,6 +125,9 @@ TEST_F(ImportCaptionsTest, FitsItsSize) {
     EXPECT_EQ(20, grid->columnWidth(0));
     EXPECT_EQ(412, grid->columnWidth(1));
     EXPECT_EQ(169, grid->columnWidth(2));
+    EXPECT_EQ(20 + 412 + 169, grid->viewport()->width()); // no part of a column is hidden, none is left over
+    OpenWith("a,b");
+    EXPECT_EQ(20 + 412 + 169, window->preview->grdImport->viewport()->width());
 }
 
 TEST_F(ImportCaptionsTest, GivesEveryControlAnAccessibleName) {

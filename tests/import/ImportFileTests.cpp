@@ -24,9 +24,8 @@ protected:
     }
 
     static QString FirstField(const ImportFile& file, std::int64_t number) {
-        ImportRecord record;
-        const ImportFile::Result result = file.Read(number, record);
-        return result.What == Outcome::Done ? record.Fields.value(0) : Text("(error)");
+        const ImportFile::RecordReading reading = file.ReaderOf(number)();
+        return reading.Came.What == Outcome::Done ? reading.Record.Fields.value(0) : Text("(error)");
     }
 };
 
@@ -73,12 +72,11 @@ TEST_F(ImportFileTest, FindsAnyRecordOfALongFileWithoutReadingItAgain) {
 
 TEST_F(ImportFileTest, ReadsTheFirstRecordBeforeCounting) {
     folder.Write(path, "a,b\r\nc,d");
-    ImportRecord record;
-    EXPECT_FALSE(ImportFile(path).ReadFirst(record));
-    EXPECT_EQ(QStringList({Text("a"), Text("b")}), record.Fields);
+    EXPECT_EQ(QStringList({Text("a"), Text("b")}), ImportFile(path).ReaderOfFirst()().Record.Fields);
     folder.Write(path, "\r\nc,d");
-    EXPECT_FALSE(ImportFile(path).ReadFirst(record));
-    EXPECT_EQ(QStringList({QString()}), record.Fields);
+    const ImportFile::RecordReading empty = ImportFile(path).ReaderOfFirst()();
+    EXPECT_EQ(Outcome::Done, empty.Came.What);
+    EXPECT_EQ(QStringList({QString()}), empty.Record.Fields);
 }
 
 TEST_F(ImportFileTest, KeepsLittleOfALineOf50Megabytes) {
@@ -86,11 +84,11 @@ TEST_F(ImportFileTest, KeepsLittleOfALineOf50Megabytes) {
     line[20'000'000] = '\t';
     const ImportFile file = Counted("first,1\r\n" + line + "\r\nlast");
     ASSERT_EQ(3, file.RecordCount());
-    ImportRecord record;
-    ASSERT_EQ(Outcome::Done, file.Read(2, record).What);
-    EXPECT_EQ('\t', record.Separator);
+    const ImportFile::RecordReading reading = file.ReaderOf(2)();
+    ASSERT_EQ(Outcome::Done, reading.Came.What);
+    EXPECT_EQ('\t', reading.Record.Separator);
     EXPECT_EQ(QStringList({QString(ShownCharacters, QChar(u'x')), QString(ShownCharacters, QChar(u'x'))}),
-              record.Fields);
+              reading.Record.Fields);
     EXPECT_EQ(Text("last"), FirstField(file, 3));
 }
 
@@ -100,9 +98,9 @@ TEST_F(ImportFileTest, AgreesWithRecordsSplitInMemory) {
     const ImportFile file = Counted(quoted + "\n" + blanks + "\n");
     const QByteArray lines[] = {quoted, blanks};
     for (int number = 1; number <= 2; ++number) {
-        ImportRecord record;
-        ASSERT_EQ(Outcome::Done, file.Read(number, record).What);
-        EXPECT_EQ(SplitImportRecord(lines[number - 1]).Fields, record.Fields);
+        const ImportFile::RecordReading reading = file.ReaderOf(number)();
+        ASSERT_EQ(Outcome::Done, reading.Came.What);
+        EXPECT_EQ(SplitImportRecord(lines[number - 1]).Fields, reading.Record.Fields);
     }
 }
 
@@ -117,8 +115,7 @@ TEST_F(ImportFileTest, ReportsWhatCannotBeRead) {
     } cases[] = {{"c:\\school\\none.txt", 53}, {"c:\\none\\students.txt", 76}, {"c:\\school\\folder", 75},
                  {"c:\\school\\empty", 62},    {"x:\\students.txt", 68},       {"", 52}};
     for (const auto& row : cases) {
-        ImportRecord record;
-        EXPECT_EQ(row.number, ImportFile(Text(row.path)).ReadFirst(record).Number) << row.path;
+        EXPECT_EQ(row.number, ImportFile(Text(row.path)).ReaderOfFirst()().Came.Error.Number) << row.path;
         if (row.number != 62) {
             ImportFile file(Text(row.path));
             const ImportFile::Result result = file.Count({});
@@ -128,8 +125,7 @@ TEST_F(ImportFileTest, ReportsWhatCannotBeRead) {
     }
     std::ifstream readable(folder.Native(Text("c:\\school\\locked")));
     if (!readable.good()) { // the administrator of the machine may read everything
-        ImportRecord record;
-        EXPECT_EQ(70, ImportFile(Text("c:\\school\\locked")).ReadFirst(record).Number);
+        EXPECT_EQ(70, ImportFile(Text("c:\\school\\locked")).ReaderOfFirst()().Came.Error.Number);
     }
 }
 
@@ -144,18 +140,16 @@ TEST_F(ImportFileTest, NoticesThatSomebodyWroteToTheFile) {
         folder.Write(path, changed);
         const auto later = std::filesystem::last_write_time(folder.Native(path)) + std::chrono::seconds(2);
         std::filesystem::last_write_time(folder.Native(path), later);
-        ImportRecord record;
-        record.Fields = {Text("kept")};
-        EXPECT_EQ(Outcome::Changed, file.Read(3, record).What) << changed;
-        EXPECT_EQ(QStringList({Text("kept")}), record.Fields);
+        const ImportFile::RecordReading reading = file.ReaderOf(3)();
+        EXPECT_EQ(Outcome::Changed, reading.Came.What) << changed;
+        EXPECT_EQ(QStringList(), reading.Record.Fields);
     }
 }
 
 TEST_F(ImportFileTest, ReportsAVanishedFile) {
     const ImportFile file = Counted("a\nb\n");
     folder.Remove(path);
-    ImportRecord record;
-    const ImportFile::Result result = file.Read(2, record);
+    const ImportFile::Result result = file.ReaderOf(2)().Came;
     EXPECT_EQ(Outcome::Failed, result.What);
     EXPECT_EQ(53, result.Error.Number);
 }
@@ -163,8 +157,7 @@ TEST_F(ImportFileTest, ReportsAVanishedFile) {
 TEST_F(ImportFileTest, ReportsADeviceThatFails) {
     const ImportFile file = Counted("a\nb\n");
     calls.ReadFailure = EIO;
-    ImportRecord record;
-    const ImportFile::Result result = file.Read(2, record);
+    const ImportFile::Result result = file.ReaderOf(2)().Came;
     EXPECT_EQ(Outcome::Failed, result.What);
     EXPECT_EQ(57, result.Error.Number);
 }

@@ -13,6 +13,12 @@ ImportWindowTest::ImportWindowTest() {
     ImportUpdateOptions = UpdateOptions();
 }
 
+// Reads that were left to themselves use the folder and the calls.
+ImportWindowTest::~ImportWindowTest() {
+    calls.Recover();
+    AwaitBackgroundWork();
+}
+
 void ImportWindowTest::OpenWith(const QByteArray& bytes) {
     folder.Write(path, bytes);
     ProgramConfig.ImportStudentsFile = path;

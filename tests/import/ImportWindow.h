@@ -2,6 +2,7 @@
 
 #include "app/CFG_2015.h"
 #include "import/frmImport_SU.h"
+#include "platform/BackgroundWork.h"
 #include "tests/import/FaultyDisk.h"
 #include "tests/import/Text.h"
 #include "tests/support/TestFolder.h"
@@ -20,6 +21,7 @@ protected:
     std::unique_ptr<frmImport_SU> window;
 
     ImportWindowTest();
+    ~ImportWindowTest() override;
 
     /// Writes the student data file, makes it the setting and shows the window; returns when it has been activated.
     void OpenWith(const QByteArray& bytes);

@@ -91,6 +91,7 @@ TEST_F(OpenImportFileTest, OpeningByTheDialogClearsTheMatchListFirst) {
     EXPECT_EQ(List(" <-- Last Name|"), Column(2));
     folder.Screen.AnswerFile(Text("c:\\other\\new.txt"));
     Click("cmdOpen");
+    EXPECT_EQ(path, folder.Screen.FileDialogs.back().FileName); // the dialog begins beside the file shown
     EXPECT_EQ(QStringList({QString(), QString(), QString()}), Column(2));
     EXPECT_EQ(0, ProgramConfig.ImportFieldLast);
     for (const QString& entry : ProgramConfig.ImportFields) {
@@ -131,6 +132,32 @@ TEST_F(OpenImportFileTest, LowersTheMatchCountToTheFieldCount) {
     EXPECT_EQ(4, ProgramConfig.ImportFieldLast);
     EXPECT_EQ(Text("Matched: 4 of 4"), Label("lblMatched"));
     EXPECT_TRUE(Field(5)->isEnabled());
+}
+
+TEST_F(OpenImportFileTest, ShowsTheUncheckedEntriesOfASetupFileThatFailsPartWay) {
+    folder.Write(setupFile, "ActiveFields=25\nField1=nobody\nField2=Last Name\nAddNames=99999\nField3=Gender\n");
+    ProgramConfig.ImportFields[3] = Text("old");
+    ImportUpdateOptions.Actions[0] = 1;
+    OpenWith("a,b,c");
+    EXPECT_EQ(List(" <-- nobody| <-- Last Name| <-- old"), Column(2));
+    EXPECT_EQ(Text("Matched: 3 of 3"), Label("lblMatched"));
+    EXPECT_EQ(3, ProgramConfig.ImportFieldLast);
+    EXPECT_FALSE(Field(LastNameField)->isEnabled());
+    EXPECT_TRUE(Control<QCheckBox>("chkCLUpd(0)")->isChecked());
+}
+
+TEST_F(OpenImportFileTest, KeepsNoCountThatTheSettingsHaveNoRoomFor) {
+    const struct {
+        const char* count;
+        int kept;
+    } rows[] = {{"25", 24}, {"32767", 24}, {"-3", 0}};
+    for (const auto& row : rows) {
+        folder.Write(setupFile, QByteArray("ActiveFields=") + row.count + "\nAddNames=99999\n");
+        folder.Screen.Answer(MessageAnswer::Ok);
+        OpenWith(""); // a first record would lower the count
+        EXPECT_EQ(row.kept, ProgramConfig.ImportFieldLast) << row.count;
+        EXPECT_EQ(Text("Matched: 0 of 0"), Label("lblMatched"));
+    }
 }
 
 TEST_F(OpenImportFileTest, KeepsTheTicksWithoutASetupFile) {

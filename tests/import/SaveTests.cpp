@@ -100,6 +100,7 @@ TEST_F(SaveTest, YesWithoutMatchesRemovesTheSetup) {
               Messages()[0].Text);
     EXPECT_EQ(MessageButtons::YesNo, Messages()[0].Buttons);
     EXPECT_EQ(MessageIcon::Critical, Messages()[0].Icon);
+    EXPECT_EQ(static_cast<int>(MessageAnswer::Yes), MsgAnswer);
     EXPECT_FALSE(folder.Exists(setupFile));
     EXPECT_EQ(QString(), ProgramConfig.ImportStudentsFile);
     EXPECT_TRUE(ImportSection().startsWith("\"[Import Students]\"\r\n\"\"\r\n"));

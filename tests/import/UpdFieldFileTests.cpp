@@ -17,7 +17,7 @@ protected:
 
     ImportSetup setup;
 
-    SetupReading ReadIt() { return ReadUpdFieldCFG(setupFile, EnglishFieldList(), setup); }
+    SetupReading ReadIt() { return TakeSetupBytes(ReadSetupBytes(setupFile), EnglishFieldList(), setup); }
 };
 
 TEST_F(UpdFieldFileTest, ReadsAndSavesTheSameBytes) {
@@ -71,11 +71,11 @@ TEST_F(UpdFieldFileTest, KeepsTheLinesBeforeABadNumberUnchecked) {
     EXPECT_EQ(Text("old"), setup.Matches[2]);
 }
 
-TEST_F(UpdFieldFileTest, KeepsNoImpossibleCountWithoutTheCheck) {
-    for (const char* count : {"25", "-3"}) {
-        folder.Write(setupFile, QByteArray("ActiveFields=") + count + "\r\nAddNames=99999\r\n");
+TEST_F(UpdFieldFileTest, KeepsTheCountBeforeAFailureUnchecked) {
+    for (const int count : {25, -3}) {
+        folder.Write(setupFile, "ActiveFields=" + QByteArray::number(count) + "\r\nAddNames=99999\r\n");
         EXPECT_FALSE(ReadIt().Complete);
-        EXPECT_EQ(0, setup.ActiveFields);
+        EXPECT_EQ(count, setup.ActiveFields);
     }
 }
 
