@@ -50,19 +50,23 @@ public:
         const QString text = Drawn(index.data().toString());
         painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                           isNumber ? text : option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
-        DrawLines(*painter, option);
+        DrawLines(*painter, option, index);
     }
 
 private:
     ImportGrid* grid;
 
-    // The style's own lines can hardly be seen on a dark ground.
-    static void DrawLines(QPainter& painter, const QStyleOptionViewItem& option) {
+    // Lines between the cells; the style's own can hardly be seen on a dark ground.
+    static void DrawLines(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
         QColor colour = option.palette.color(QPalette::Text);
         colour.setAlphaF(LineStrength);
         const QRect& cell = option.rect;
-        painter.fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), colour);
-        painter.fillRect(QRect(cell.right(), cell.top(), 1, cell.height() - 1), colour);
+        if (index.row() + 1 < index.model()->rowCount()) {
+            painter.fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), colour);
+        }
+        if (index.column() != ImportGrid::MatchColumn) {
+            painter.fillRect(QRect(cell.right(), cell.top(), 1, cell.height() - 1), colour);
+        }
     }
 };
 

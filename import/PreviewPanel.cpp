@@ -32,7 +32,10 @@ PreviewPanel::PreviewPanel(QWidget* parent)
     lblFields->setFont(bold);
     lblMatched->setFont(bold);
     lblNotice->setFont(bold);
-    lblNotice->hide();
+    for (QWidget* later :
+         std::initializer_list<QWidget*>{spnRecords, lblRecordCount, imgLoading, prgLoading, lblNotice}) {
+        later->hide();
+    }
     for (QLabel* sentence : {lblHelp1, lblHelp3, lblNotice}) {
         sentence->setWordWrap(true);
     }

@@ -83,10 +83,14 @@ void TourSteps::MatchFields(const QString& title) {
     await(4);
     program.AwaitControl(title, FieldName(5), QStringLiteral("to take the keyboard"),
                          [](const auto& seen) { return seen.Focused; });
-    program.Press(title, QStringLiteral("Down"));
-    program.Press(title, QStringLiteral("Down"));
+    program.Press(title, QStringLiteral("Down")); // past the used ones
+    program.AwaitControl(title, FieldName(7), QStringLiteral("to take the keyboard"),
+                         [](const auto& seen) { return seen.Focused; });
+    TakePicture(title, QStringLiteral("import-field-chosen"));
     program.Press(title, QStringLiteral("space"));
     await(5);
+    DragFromTo(middle(FieldName(5)), middle(QStringLiteral("grdImport")));
+    await(6);
 }
 
 void TourSteps::VisitAdmin() {

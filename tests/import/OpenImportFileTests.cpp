@@ -29,6 +29,18 @@ TEST_F(OpenImportFileTest, ShowsTheFirstRecordOfTheSetUpFile) {
     EXPECT_GE(folder.Screen.PendingEventRounds, 2);
 }
 
+TEST_F(OpenImportFileTest, ShowsNeitherRecordNorPictureBeforeItIsActive) {
+    folder.Write(path, "a,b");
+    ProgramConfig.ImportStudentsFile = path;
+    window = std::make_unique<frmImport_SU>();
+    window->show();
+    for (const char* name : {"spnRecords", "lblRecordCount", "imgLoading", "prgLoading", "lblNotice"}) {
+        EXPECT_FALSE(Find(name)->isVisible()) << name;
+    }
+    QCoreApplication::sendPostedEvents(window.get(), QEvent::MetaCall);
+    EXPECT_TRUE(Find("lblRecordCount")->isVisible());
+}
+
 TEST_F(OpenImportFileTest, AsksForAFileWhenNoneIsSetUp) {
     folder.Write(path, "a\tb");
     folder.Screen.AnswerFile(path);

@@ -5,12 +5,15 @@
 #include "app/frmMaster_SU.h"
 #include "import/frmImport_SU.h"
 #include "options/frmSetUp_SU.h"
+#include "platform/CodePage.h"
 #include "platform/widgets/Pictures.h"
 #include "tests/screens/Scene.h"
 #include "transfer/frmGWT_SU.h"
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
+#include <QtTest>
 #include <stdexcept>
 
 namespace {
@@ -31,6 +34,27 @@ void TakeImportWith(bool frenchCaptions, const char* name, PictureTaker& picture
         window.SpeakFrench_ImportSU();
     }
     pictures.Take(window, name);
+}
+
+// What a user sees while a share lets the count wait.
+void TakeLoadingImport(Scene& scene, PictureTaker& pictures) {
+    constexpr int readsBeforeTheCount = 4;
+    constexpr int betweenLooks = 10; // milliseconds
+    frmImport_SU window;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (scene.Disk.IsStalled() && window.preview->imgLoading->isVisible()) {
+            look.stop();
+            pictures.Take(window, "import-loading");
+            scene.Disk.Recover();
+        }
+    });
+    look.start(betweenLooks);
+    scene.Disk.StallAfter(readsBeforeTheCount);
+    window.show();
+    if (!QTest::qWaitFor([&] { return window.preview->lblRecordCount->isVisible(); }) || look.isActive()) {
+        throw std::runtime_error("The import file was not counted slowly");
+    }
 }
 
 void TakeAdminWith(bool frenchCaptions, const char* name, PictureTaker& pictures) {
@@ -86,6 +110,14 @@ void TakeImport(Edition edition, PictureTaker& pictures) {
     if (edition == Edition::French) {
         TakeImportWith(true, "import-french-captions", pictures);
     }
+    TakeLoadingImport(scene, pictures);
+    scene.Machine.Remove(ProgramFolder + QStringLiteral("\\UpdField.cfg"));
+    const QString students = ProgramFolder + QStringLiteral("\\students.txt");
+    scene.Machine.Write(students, TextFromBytes(scene.Machine.Read(students)).toUtf8());
+    TakeImportWith(false, "import-utf-8", pictures);
+    scene.Machine.Write(students, QByteArray());
+    scene.Machine.Screen.Answer(MessageAnswer::Ok);
+    TakeImportWith(false, "import-empty", pictures);
 }
 
 void TakeAdmin(Edition edition, PictureTaker& pictures) {
