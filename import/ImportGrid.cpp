@@ -112,7 +112,8 @@ void ImportGrid::SetRows(int count) {
         SetText(row, MatchColumn, QString());
     }
     setFixedWidth(GreatestWidth() - (count > RowsSeen ? 0 : verticalScrollBar()->sizeHint().width()));
-    setFixedHeight(std::min(std::min(count, RowsSeen) * RowHeight + 2 * frameWidth(), GreatestHeight));
+    const int height = std::min(count, RowsSeen) * RowHeight + 2 * frameWidth();
+    setFixedHeight(count == 0 ? GreatestHeight : std::min(height, GreatestHeight));
     scrollToTop();
 }
 

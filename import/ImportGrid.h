@@ -20,7 +20,8 @@ public:
     /// The width with the bar that scrolls more rows than can be seen.
     int GreatestWidth() const;
 
-    /// As many rows as a record has fields, numbered, without matches; at most 15 are seen at once.
+    /// As many rows as a record has fields, numbered, without matches; at most 15 are seen at once. Without a
+    /// row the grid is an empty box.
     void SetRows(int count);
 
     /// The texts of a record; rows beyond its fields keep theirs, fields beyond the rows are not shown.

@@ -27,6 +27,7 @@ PreviewPanel::PreviewPanel(QWidget* parent)
     prgLoading->setObjectName(QStringLiteral("prgLoading"));
     prgLoading->setAccessibleName(QStringLiteral("Part of the import file that has been read"));
     prgLoading->setFixedWidth(BarWidth);
+    prgLoading->setFormat(QStringLiteral("Reading the file: %p%"));
     QFont bold = lblFields->font();
     bold.setBold(true);
     lblFields->setFont(bold);
@@ -73,6 +74,7 @@ QLayout* PreviewPanel::BuildTop() {
 QLayout* PreviewPanel::BuildRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(Spacing::Gap);
+    row->addStrut(PictureSize); // whatever of it is seen
     row->addWidget(spnRecords);
     row->addWidget(lblRecordCount);
     row->addWidget(imgLoading);

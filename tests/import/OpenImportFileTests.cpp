@@ -242,6 +242,7 @@ TEST_F(OpenImportFileTest, TellsWhatCannotBeReadAndGoesOn) {
         EXPECT_TRUE(message.Text.startsWith(Text(row.start) + Text(row.path) + Text("\n\n"))) << row.path;
         EXPECT_EQ(Text(row.path), Label("lblFileName"));
         EXPECT_EQ(0, window->preview->grdImport->rowCount());
+        EXPECT_EQ(229, window->preview->grdImport->height()); // an empty box
         EXPECT_FALSE(Find("spnRecords")->isVisible());
         EXPECT_FALSE(Find("imgLoading")->isVisible());
         EXPECT_TRUE(Field(LastNameField)->isEnabled());
