@@ -36,6 +36,8 @@ protected:
         Program->Enter(dialog, QStringLiteral("fileNameEdit"), School + QStringLiteral("/students.txt"));
         Program->Press(dialog, QStringLiteral("Return"));
         Program->AwaitText(Window, QStringLiteral("lblFileName"), QStringLiteral("g:\\students.txt"));
+        Program->AwaitControl(Window, QStringLiteral("lblRecordCount"), QStringLiteral("to end the reading"),
+                              [](const auto& it) { return it.Visible; });
         AwaitMatches(0);
     }
 
