@@ -178,6 +178,7 @@ void frmMaster_SU::ShowOptions(const OptionWindowMaker& maker) {
     }
     optionWindow.reset(maker(this));
     optionWindow->exec();
+    activateWindow(); // a window manager may lose the keyboard when a message box and its window go at once
     Form_Activate();
 }
 

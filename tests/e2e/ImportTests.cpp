@@ -33,7 +33,7 @@ protected:
         Program = StartToMenu(Installed);
         Program->Press(Menu, QStringLiteral("alt+i"));
         const QString dialog = QStringLiteral("Open an Import File");
-        Program->Enter(dialog, QStringLiteral("fileNameEdit"), School + QStringLiteral("/students.txt"));
+        Program->Enter(dialog, QStringLiteral("fileNameEdit"), Quoted(School + QStringLiteral("/students.txt")));
         Program->Press(dialog, QStringLiteral("Return"));
         Program->AwaitText(Window, QStringLiteral("lblFileName"), QStringLiteral("g:\\students.txt"));
         Program->AwaitControl(Window, QStringLiteral("lblRecordCount"), QStringLiteral("to end the reading"),

@@ -44,3 +44,9 @@ private:
     QTemporaryDir home;
     QProcess process;
 };
+
+/// A file's name in quotes, as file dialogs take it, too: to such a one they propose nothing, in a list that would take
+/// the next key.
+inline QString Quoted(const QString& name) {
+    return QLatin1Char('"') + name + QLatin1Char('"');
+}

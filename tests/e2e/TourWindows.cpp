@@ -31,7 +31,7 @@ void TourSteps::VisitImport() {
     const QString title = edition.MenuTitle + QStringLiteral(" - IMPORT FILE SETUP");
     program.Press(edition.MenuTitle, QStringLiteral("alt+i"));
     PassFileOfSettings(title);
-    program.Enter(OpenDialog, QStringLiteral("fileNameEdit"), QDir(folder).absoluteFilePath(StudentFile));
+    program.Enter(OpenDialog, QStringLiteral("fileNameEdit"), Quoted(QDir(folder).absoluteFilePath(StudentFile)));
     program.Press(OpenDialog, QStringLiteral("Return"));
     program.AwaitControl(
         title, QStringLiteral("lblRecordCount"), QStringLiteral("to show the first record"),
