@@ -23,12 +23,13 @@ endfunction()
 # gradewell_manual(EDITION): turns docs/manual/EDITION.html into the PDF that Help opens.
 function(gradewell_manual edition)
     set(source "${PROJECT_SOURCE_DIR}/docs/manual/${edition}.html")
+    file(GLOB pictures CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/manual/pictures/${edition}/*.png")
     set(folder "${PROJECT_BINARY_DIR}/manuals/${edition}")
     file(MAKE_DIRECTORY "${folder}")
     add_custom_command(OUTPUT "${folder}/Gradewell Config.PDF"
         COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=default.warning=false
             $<TARGET_FILE:manual_writer> "${source}" "${folder}/Gradewell Config.PDF"
-        DEPENDS manual_writer "${source}"
+        DEPENDS manual_writer "${source}" ${pictures}
         COMMENT "Writing the manual of the ${edition} edition"
         VERBATIM)
 endfunction()
@@ -57,9 +58,14 @@ if(CMAKE_CROSSCOMPILING)
 else()
     set(manual_folder "${PROJECT_BINARY_DIR}/manuals")
 endif()
+if(NOT CMAKE_CROSSCOMPILING)
+    add_library(manual_pages STATIC tools/manual/ManualPages.cpp tools/manual/ManualText.cpp tools/manual/PdfFile.cpp
+        tools/manual/PdfNavigation.cpp)
+    target_link_libraries(manual_pages PUBLIC Qt6::Gui PRIVATE gradewell_flags)
+endif()
 if(NOT GRADEWELL_SANITIZE AND NOT CMAKE_CROSSCOMPILING)
-    add_executable(manual_writer tools/ManualWriter.cpp)
-    target_link_libraries(manual_writer PRIVATE Qt6::Gui gradewell_flags)
+    add_executable(manual_writer tools/manual/ManualWriter.cpp)
+    target_link_libraries(manual_writer PRIVATE manual_pages gradewell_flags)
     gradewell_manual(english)
     gradewell_manual(french)
     add_custom_target(manuals ALL DEPENDS

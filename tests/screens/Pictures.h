@@ -4,10 +4,11 @@
 
 class QWidget;
 
-/// Takes the pictures of one run, numbered in the order in which they are taken.
+/// Takes the pictures of one run.
 class PictureTaker {
 public:
-    /// Names begin with the folder and `prefix`: "FOLDER/english-light-100-03-NAME.png".
+    /// With a prefix, names have it and the picture's number: "FOLDER/english-light-100-03-NAME.png". Without one they
+    /// are "FOLDER/NAME.png", and the files are small: at most 256 colours, the rarer ones being replaced.
     PictureTaker(QString folder, QString prefix);
 
     /// Shows the window, waits until it is the active one and saves its picture. A control that is clipped is told
@@ -18,6 +19,8 @@ public:
     int ClippedCount() const { return clipped; }
 
 private:
+    QString FileFor(const char* name) const;
+
     QString folder;
     QString prefix;
     int count = 0;

@@ -1,5 +1,6 @@
-/// Takes a picture of every window and panel: screens english|french light|dark PICTURE-FOLDER. The scale is that of
-/// QT_SCALE_FACTOR. Ends with 0 when every picture was taken and no window showed a message.
+/// Takes a picture of every window and panel: screens english|french light|dark|manual PICTURE-FOLDER. The scale is
+/// that of QT_SCALE_FACTOR. Those of the manual have light colours and small files, named after what they show. Ends
+/// with 0 when every picture was taken and no window showed a message.
 
 #include "platform/widgets/ProgramStyle.h"
 #include "tests/screens/Pictures.h"
@@ -42,7 +43,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 4 || !QDir().mkpath(arguments[3])) {
-        std::fputs("Usage: screens english|french light|dark PICTURE-FOLDER\n", stderr);
+        std::fputs("Usage: screens english|french light|dark|manual PICTURE-FOLDER\n", stderr);
         return 2;
     }
     ProgramStyle::Install();
@@ -51,7 +52,8 @@ int main(int argc, char** argv) {
                                                                    : QApplication::style()->standardPalette());
     const Edition edition = arguments[1] == QLatin1String("french") ? Edition::French : Edition::English;
     const int percent = qRound(qApp->devicePixelRatio() * 100);
-    PictureTaker pictures(arguments[3], QStringLiteral("%1-%2-%3").arg(arguments[1], arguments[2]).arg(percent));
+    const QString prefix = QStringLiteral("%1-%2-%3").arg(arguments[1], arguments[2]).arg(percent);
+    PictureTaker pictures(arguments[3], arguments[2] == QLatin1String("manual") ? QString() : prefix);
     try {
         TakeMenu(edition, pictures);
         TakeGeneralOptions(edition, pictures);
