@@ -48,6 +48,17 @@ TEST(ManualPages, KeepsAHeadingWithItsText) {
     }
 }
 
+TEST(ManualPages, DoesNotCutAShortParagraph) {
+    const QString paragraph =
+        QStringLiteral("<p><a name=\"first\"></a>One<br>Two<br>Three<br><a name=\"last\"></a>Four</p>");
+    for (int lines = 30; lines < 50; ++lines) {
+        const ManualPages pages = PagesOf(Lines(lines) + paragraph + Lines(2));
+        EXPECT_EQ(pages.Places().Pages.value(QStringLiteral("first")),
+                  pages.Places().Pages.value(QStringLiteral("last")))
+            << lines;
+    }
+}
+
 TEST(ManualPages, BookmarksTwoLevelsAndTargetsAllNames) {
     const ManualPages pages =
         PagesOf(QStringLiteral("<p>Title</p><h1>First</h1><h2><a name=\"in\"></a>Inner</h2><h3>Deep"

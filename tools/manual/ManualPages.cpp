@@ -23,6 +23,7 @@ constexpr double Top = 92;
 constexpr double HeaderTop = 52;
 constexpr double FooterTop = 1052;
 constexpr double LineHeight = 20;
+constexpr int LinesOfShortBlock = 8;
 constexpr int MostPasses = 8; // until no page number changes any more
 const QColor Faint(0x50, 0x5a, 0x66);
 
@@ -36,6 +37,10 @@ QFont ManualFont(double points) {
 bool StaysWithNext(const QTextBlock& block) {
     const QTextBlockFormat format = block.blockFormat();
     return format.headingLevel() > 0 || (format.bottomMargin() == 0 && block.textList() == nullptr);
+}
+
+bool BeginsPage(const QTextBlock& block) {
+    return (block.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) != 0;
 }
 
 bool IsInTable(const QTextBlock& block) {
@@ -78,11 +83,20 @@ void ManualPages::KeepTogether() {
     }
 }
 
-// The first block that stands apart from the one that it stays with begins a new page, with all that stay with it.
+// A short paragraph that the page's end cuts, or one that is cut off from the block that it stays with.
+bool ManualPages::IsTorn(const QTextBlock& block) const {
+    const int page = PageOf(block, 0);
+    const bool isShort = block.layout()->lineCount() <= LinesOfShortBlock;
+    return !IsInTable(block) &&
+           ((isShort && PageOf(block, block.length() - 1) != page) ||
+            (StaysWithNext(block) && !BeginsPage(block.next()) && PageOf(block.next(), 0) != page));
+}
+
+// The first torn block begins a new page, with all that stay with it.
 bool ManualPages::MoveFirstTornBlock() {
     for (QTextBlock block = document.begin(); block.next().isValid(); block = block.next()) {
         const int page = PageOf(block, 0);
-        if (IsInTable(block) || !StaysWithNext(block) || PageOf(block.next(), 0) == page) {
+        if (!IsTorn(block)) {
             continue;
         }
         QTextBlock first = block;
@@ -91,8 +105,7 @@ bool ManualPages::MoveFirstTornBlock() {
             first = first.previous();
         }
         QTextBlockFormat format = first.blockFormat();
-        if (TopOf(first) < LineHeight || (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) != 0 ||
-            (block.next().blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) != 0) {
+        if (TopOf(first) < LineHeight || BeginsPage(first)) {
             continue;
         }
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);

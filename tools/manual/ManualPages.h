@@ -11,7 +11,8 @@ class QPainter;
 class QTextBlock;
 
 /// A manual, laid out on A4 pages: a title page, then pages with the manual's title above and their number below. A
-/// heading, a picture's line and every paragraph without room below it stay on the page of what follows them.
+/// heading, a picture's line and every paragraph without room below it stay on the page of what follows them; a short
+/// paragraph stays on one page.
 class ManualPages {
 public:
     /// Pictures are found beside `base`, the manual's own file.
@@ -32,6 +33,7 @@ private:
     void LayOut(const QString& html);
     void LayOutAnew();
     void KeepTogether();
+    bool IsTorn(const QTextBlock& block) const;
     bool MoveFirstTornBlock();
     void TakePlaces();
     void TakeNames(const QTextBlock& block);
