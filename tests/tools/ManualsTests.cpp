@@ -44,8 +44,9 @@ bool MayHoldMessages(const QString& name, const QString& code) {
 // The parts of a source's texts between line ends and places to be filled in, without tables of captions.
 QStringList TextsOf(QString code) {
     static const QRegularExpression left(
-        QStringLiteral("//[^\\n]*|#include[^\\n]*|Q_ASSERT[^;]*;|Caption \\w+\\[\\] = \\{.*?\\n\\};|"
-                       "to_array<Caption>\\(\\{.*?\\n\\}\\);"),
+        QStringLiteral(
+            "//[^\\n]*|#include[^\\n]*|(Q_ASSERT|setAccessible|setToolTip)[^;]*;|Caption \\w+\\[\\] = \\{.*?\\n\\};|"
+            "to_array<Caption>\\(\\{.*?\\n\\}\\);"),
         QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression literal(QStringLiteral("\"((?:[^\"\\\\\\n]|\\\\.)*)\""));
     static const QRegularExpression joint(QStringLiteral("\"\\s*\""));
