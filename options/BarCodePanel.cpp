@@ -5,36 +5,35 @@
 #include "platform/CodePage.h"
 #include "platform/Desktop.h"
 #include "platform/widgets/DropDownList.h"
+#include "platform/widgets/PathLabel.h"
 #include "platform/widgets/ProgramStyle.h"
 #include "platform/widgets/TextBox.h"
 
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRawFont>
+#include <utility>
 
 namespace {
 
 constexpr int DialogFontSize = 12; // points, preset in the font dialog
 constexpr int SampleFontSize = 22; // points
 constexpr int ResultFontSize = 18;
-constexpr int SampleHeight = 56; // logical pixels
+constexpr int SampleHeight = 64; // logical pixels
+constexpr int ButtonWidth = 120;
 constexpr int ResultWidth = 150;
+constexpr int ResultHeight = 32;
 
 const QString PlainFont = QStringLiteral("MS Sans Serif");
 
-// A label in a font of normal weight; false when the machine has nothing to draw it with.
-bool SetLabelFont(QLabel& label, const QString& name, int points) {
-    QFont font(name, points, QFont::Normal);
-    label.setFont(font);
-    return QRawFont::fromFont(font).isValid();
-}
-
 } // namespace
 
-BarCodePanel::BarCodePanel(QWidget* parent) : SetupPanel(3, parent) {
+BarCodePanel::BarCodePanel(QWidget* parent, FontSetter setFont)
+    : SetupPanel(3, parent), setLabelFont(std::move(setFont)) {
     Column->addWidget(NewExplanation("lblBCA1", this));
     Column->addWidget(NewExplanation("lblBCA2", this));
     AddFontFrame();
@@ -60,15 +59,17 @@ void BarCodePanel::AddFontFrame() {
     const Frame frame = NewFrame("fraBCodeFont", this);
     cmdBCAFont = NewButton("cmdBCAFont", frame.Box);
     cmdBCAClear = NewButton("cmdBCAClear", frame.Box);
-    lblBCAFontName = NewLabel("lblBCAFontName", frame.Box);
+    lblBCAFontName = NewControl<PathLabel>("lblBCAFontName", frame.Box);
     lblBCAFSample = NewLabel("lblBCAFSample", frame.Box);
     lblBCAFSample->setAlignment(Qt::AlignCenter);
     lblBCAFSample->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    lblBCAFSample->setMinimumSize(1, SampleHeight);
+    lblBCAFSample->setFixedHeight(SampleHeight); // whatever the font
+    lblBCAFSample->setMinimumWidth(1);
+    cmdBCAFont->setMinimumWidth(ButtonWidth);
+    cmdBCAClear->setMinimumWidth(ButtonWidth);
     auto* row = new QHBoxLayout;
     row->addWidget(cmdBCAFont);
     row->addWidget(cmdBCAClear);
-    row->addSpacing(Spacing::Gap);
     row->addWidget(lblBCAFontName, 1);
     frame.Column->addLayout(row);
     frame.Column->addWidget(lblBCAFSample);
@@ -103,6 +104,8 @@ void BarCodePanel::AddField(QWidget* frame, QGridLayout* grid, int field) {
     cboBCACode[i] = NewControl<DropDownList>(IndexedName("cboBCACode", field), frame);
     lblBCCode[i] = NewControl<QLabel>(IndexedName("lblBCCode", field), frame);
     lblBCCode[i]->setTextFormat(Qt::PlainText);
+    lblBCCode[i]->setFixedHeight(ResultHeight);
+    lblBCCode[i]->setMinimumWidth(1);
     grid->addWidget(number, field + 1, 0, Qt::AlignCenter);
     grid->addWidget(txtBCADesc[i], field + 1, 1);
     grid->addWidget(cboBCACode[i], field + 1, 2);
@@ -197,8 +200,18 @@ void BarCodePanel::cmdBCAFont_Click() {
 
 void BarCodePanel::cmdBCAClear_Click() {
     ProgramConfig.BarCodeFontName.clear();
-    lblBCAFontName->clear();
+    lblBCAFontName->setText(QString());
     CheckFont();
+}
+
+// A font that the machine lacks is drawn in another one, which the sample shows. One that the machine lists and yet
+// cannot draw with is broken.
+bool BarCodePanel::SetLabelFont(QLabel& label, const QString& name, int points) {
+    const QFont font(name, points, QFont::Normal);
+    label.setFont(font);
+    const QRawFont drawn = QRawFont::fromFont(font);
+    return drawn.isValid() &&
+           (!QFontDatabase::hasFamily(name) || drawn.familyName().compare(name, Qt::CaseInsensitive) == 0);
 }
 
 void BarCodePanel::CheckFont() {
@@ -212,9 +225,9 @@ void BarCodePanel::CheckFont() {
 void BarCodePanel::ShowWithFont() {
     const QString& name = ProgramConfig.BarCodeFontName;
     optBCADflt[1]->setEnabled(true);
-    bool fontWorks = SetLabelFont(*lblBCAFSample, name, SampleFontSize);
+    bool fontWorks = setLabelFont(*lblBCAFSample, name, SampleFontSize);
     for (std::size_t i = 0; i < FieldCount; ++i) {
-        fontWorks = SetLabelFont(*lblBCCode[i], name, ResultFontSize) && fontWorks;
+        fontWorks = setLabelFont(*lblBCCode[i], name, ResultFontSize) && fontWorks;
         lblBCCode[i]->setText(BarCodeResult(ProgramConfig.BarCodeCode[i]));
     }
     lblBCAFSample->setText(QStringLiteral("CHOOSE ANOTHER FONT"));
@@ -228,9 +241,9 @@ void BarCodePanel::ShowWithoutFont() {
     optBCADflt[0]->setChecked(true);
     optBCADflt[1]->setEnabled(false);
     lblBCAFSample->clear();
-    SetLabelFont(*lblBCAFSample, PlainFont, ResultFontSize);
+    setLabelFont(*lblBCAFSample, PlainFont, ResultFontSize);
     for (QLabel* result : lblBCCode) {
         result->clear();
-        SetLabelFont(*result, PlainFont, ResultFontSize);
+        setLabelFont(*result, PlainFont, ResultFontSize);
     }
 }

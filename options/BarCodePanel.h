@@ -4,8 +4,10 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 
 class DropDownList;
+class PathLabel;
 class QGridLayout;
 class QLabel;
 class QPushButton;
@@ -18,7 +20,11 @@ class BarCodePanel : public SetupPanel {
     Q_OBJECT
 
 public:
-    explicit BarCodePanel(QWidget* parent);
+    /// Gives a label a font of normal weight, `points` high; false when that fails.
+    using FontSetter = std::function<bool(QLabel& label, const QString& name, int points)>;
+
+    /// `setFont` stands for the machine's fonts in a test.
+    explicit BarCodePanel(QWidget* parent, FontSetter setFont = SetLabelFont);
 
     /// Sets "No"; Load then sets the stored form.
     void PresetDefaultForm();
@@ -33,10 +39,11 @@ public:
 private:
     static constexpr int FieldCount = 3;
 
+    FontSetter setLabelFont;
     std::array<QRadioButton*, 2> optBCADflt{};
     QPushButton* cmdBCAFont;
     QPushButton* cmdBCAClear;
-    QLabel* lblBCAFontName;
+    PathLabel* lblBCAFontName;
     QLabel* lblBCAFSample;
     std::array<TextBox*, FieldCount> txtBCADesc{};
     std::array<DropDownList*, FieldCount> cboBCACode{};
@@ -52,6 +59,7 @@ private:
     bool txtBCADesc_LostFocus(std::size_t field);
     void cmdBCAFont_Click();
     void cmdBCAClear_Click();
+    static bool SetLabelFont(QLabel& label, const QString& name, int points);
     void CheckFont();
     void ShowWithFont();
     void ShowWithoutFont();

@@ -1,6 +1,7 @@
 #include "options/FolderPicker.h"
 
 #include "options/FolderRule.h"
+#include "options/PanelParts.h"
 #include "platform/CodePage.h"
 #include "platform/Desktop.h"
 #include "platform/ProgramPath.h"
@@ -78,14 +79,10 @@ void FolderPicker::ArrangeControls() {
 }
 
 void FolderPicker::NameControls(const QString& purpose) {
-    const QString ending = purpose.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(purpose);
-    const auto name = [&ending](QWidget* control, QString caption) {
-        control->setAccessibleName(caption.remove(u':').remove(u'&').trimmed() + ending);
-    };
-    name(Drive, driveCaption->text());
-    name(Folder, folderCaption->text());
-    name(BrowseButton, BrowseButton->text());
-    name(ClearButton, ClearButton->text());
+    NameByCaption(*Drive, driveCaption->text(), purpose);
+    NameByCaption(*Folder, folderCaption->text(), purpose);
+    NameByCaption(*BrowseButton, BrowseButton->text(), purpose);
+    NameByCaption(*ClearButton, ClearButton->text(), purpose);
 }
 
 QString FolderPicker::Chosen() const {

@@ -25,8 +25,7 @@ QString UnreadableFolderQuestion(const QString& opening, const QString& path) {
 }
 
 QString DummyFileIn(const QString& folder) {
-    const QString name = QStringLiteral("Don't_Delete_Me");
-    return folder.isEmpty() ? name : WithoutTrailingBackslash(folder) + QLatin1Char('\\') + name;
+    return JoinPath(folder, QStringLiteral("Don't_Delete_Me"));
 }
 
 QString PickedFolder(const QString& fileName) {

@@ -16,7 +16,7 @@ QString GradebookFolderWarning();
 QString UnreadableFolderQuestion(const QString& opening, const QString& path);
 
 /// The name that a dialog proposes in `folder` so that the user picks the folder only: the folder without a trailing
-/// backslash, a backslash and "Don't_Delete_Me". No such file is ever made. A bare name when the folder is empty.
+/// backslash, a backslash and "Don't_Delete_Me". No such file is ever made.
 QString DummyFileIn(const QString& folder);
 
 /// The folder of a name that such a dialog returned: what stands before its last backslash; the backslash of a drive's

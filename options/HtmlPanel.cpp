@@ -46,15 +46,13 @@ void HtmlPanel::AddNameFrame() {
     txtHTML_File_Sep1 = NewControl<TextBox>("txtHTML_File_Sep1", frame.Box);
     txtHTML_File_Sep2 = NewControl<TextBox>("txtHTML_File_Sep2", frame.Box);
     cboHTML_FileNameOrder = NewControl<DropDownList>("cboHTML_FileNameOrder", frame.Box);
-    lblHTML_FileNameExample = NewLabel("lblHTML_FileNameExample", frame.Box);
+    lblHTML_FileNameExample = NewControl<PathLabel>("lblHTML_FileNameExample", frame.Box);
     txtHTML_School->setFixedWidth(SchoolWidth);
     txtHTML_File_Sep1->setFixedWidth(SeparatorWidth);
     txtHTML_File_Sep2->setFixedWidth(SeparatorWidth);
     QFont bold = lblHTML_FileNameExample->font();
     bold.setBold(true);
     lblHTML_FileNameExample->setFont(bold);
-    lblHTML_FileNameExample->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    lblHTML_FileNameExample->setMinimumWidth(1); // a long name does not widen the window
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(Spacing::Gap);
@@ -64,7 +62,8 @@ void HtmlPanel::AddNameFrame() {
     AddNameRow(grid, "lblSep1", txtHTML_File_Sep1, "lblSep6");
     AddNameRow(grid, "lblSep2", txtHTML_File_Sep2, "lblSep7");
     AddNameRow(grid, "lblSep3", cboHTML_FileNameOrder, nullptr);
-    AddNameRow(grid, "lblSep4", lblHTML_FileNameExample, nullptr);
+    grid->addWidget(NewLabel("lblSep4", frame.Box), grid->rowCount(), 0);
+    grid->addWidget(lblHTML_FileNameExample, grid->rowCount() - 1, 1);
     frame.Column->addLayout(grid);
     frame.Column->addWidget(NewExplanation("lblSep8", frame.Box));
     frame.Column->addWidget(NewExplanation("lblSep9", frame.Box));
@@ -89,18 +88,10 @@ void HtmlPanel::AddNameRow(QGridLayout* grid, const char* caption, QWidget* cont
 void HtmlPanel::AddFolderFrame() {
     const Frame frame = NewFrame("fraHTML_Path", this);
     frame.Column->addWidget(NewExplanation("lblSR1", frame.Box));
-    lblHTML_Path = NewControl<PathLabel>("lblHTML_Path", frame.Box);
-    QPushButton* browse = NewButton("cmdHTML_Browse", frame.Box);
-    QPushButton* clear = NewButton("cmdHTML_Clear", frame.Box);
-    auto* row = new QHBoxLayout;
-    row->addWidget(NewLabel("lblSR2", frame.Box));
-    row->addWidget(lblHTML_Path, 1);
-    row->addWidget(browse);
-    row->addWidget(clear);
-    frame.Column->addLayout(row);
+    folder = AddFolderRow(frame, {"lblSR2", "lblHTML_Path", "cmdHTML_Browse", "cmdHTML_Clear"});
     Column->addWidget(frame.Box);
-    connect(browse, &QPushButton::clicked, this, &HtmlPanel::cmdHTML_Browse_Click);
-    connect(clear, &QPushButton::clicked, this, [this] { lblHTML_Path->setText(QString()); });
+    connect(folder.Browse, &QPushButton::clicked, this, &HtmlPanel::cmdHTML_Browse_Click);
+    connect(folder.Clear, &QPushButton::clicked, this, [this] { folder.Path->setText(QString()); });
 }
 
 void HtmlPanel::ConnectControls() {
@@ -126,14 +117,14 @@ void HtmlPanel::FillOrders() {
 
 void HtmlPanel::Load() {
     ProgramConfig.HTMLPath = LowerCase(ProgramConfig.HTMLPath);
-    lblHTML_Path->setText(ProgramConfig.HTMLPath);
+    folder.Path->setText(ProgramConfig.HTMLPath);
     txtHTML_School->setText(ProgramConfig.HTMLSchool);
     txtHTML_File_Sep1->setText(ProgramConfig.HTMLFileSep1);
     txtHTML_File_Sep2->setText(ProgramConfig.HTMLFileSep2);
 }
 
 void HtmlPanel::Save() const {
-    ProgramConfig.HTMLPath = lblHTML_Path->text();
+    ProgramConfig.HTMLPath = folder.Path->text();
 }
 
 void HtmlPanel::HTML_FileNameConstruct(QString& s, const QString& C, const QString& KidNumb, QString& Sp1, QString& Sp2,
@@ -145,7 +136,6 @@ void HtmlPanel::ShowExample() {
     HTML_FileNameConstruct(ProgramConfig.HTMLSchool, QStringLiteral("CourseCode"), QStringLiteral("StudentID"),
                            ProgramConfig.HTMLFileSep1, ProgramConfig.HTMLFileSep2, ProgramConfig.HTMLFileNameOrder);
     lblHTML_FileNameExample->setText(exampleName);
-    lblHTML_FileNameExample->setToolTip(exampleName.toHtmlEscaped());
 }
 
 void HtmlPanel::cboHTML_FileNameOrder_Click() {
@@ -188,11 +178,11 @@ void HtmlPanel::cmdHTML_Browse_Click() {
     dialog.DialogKind = FileDialog::Kind::Save;
     dialog.Title = QStringLiteral("Locate Gradewell Data Folders");
     dialog.Filter = QStringLiteral("All Files (*.*)|*.*");
-    dialog.FileName = DummyFileIn(lblHTML_Path->text());
+    dialog.FileName = DummyFileIn(folder.Path->text());
     const FileDialogAnswer answer = TheDesktop().AskForFile(dialog);
-    const QString folder = PickedFolder(answer.FileName);
-    if (!answer.Error && !folder.isEmpty()) {
-        lblHTML_Path->setText(LowerCase(folder));
-        ProgramConfig.HTMLPath = lblHTML_Path->text();
+    const QString picked = PickedFolder(answer.FileName);
+    if (!answer.Error && !picked.isEmpty()) {
+        folder.Path->setText(LowerCase(picked));
+        ProgramConfig.HTMLPath = folder.Path->text();
     }
 }

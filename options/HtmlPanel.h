@@ -8,7 +8,6 @@ class DropDownList;
 class PathLabel;
 class QFormLayout;
 class QGridLayout;
-class QLabel;
 class TextBox;
 
 /// Panel 5: file names and folder of HTML student reports. School ID, separators, order and a folder chosen with Browse
@@ -38,8 +37,8 @@ private:
     TextBox* txtHTML_File_Sep1;
     TextBox* txtHTML_File_Sep2;
     DropDownList* cboHTML_FileNameOrder;
-    QLabel* lblHTML_FileNameExample;
-    PathLabel* lblHTML_Path;
+    PathLabel* lblHTML_FileNameExample;
+    FolderRow folder;
     QString exampleName;
 
     void AddExplanations();

@@ -1,8 +1,10 @@
 #include "options/PanelParts.h"
 
 #include "platform/widgets/ExplanationLabel.h"
+#include "platform/widgets/PathLabel.h"
 #include "platform/widgets/ProgramStyle.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -42,6 +44,28 @@ QPushButton* NewButton(const char* name, QWidget* parent) {
 Frame NewFrame(const char* name, QWidget* parent) {
     auto* box = NewControl<QGroupBox>(name, parent);
     return {box, NewColumn(box)};
+}
+
+FolderRow AddFolderRow(const Frame& frame, const FolderRowNames& names) {
+    const FolderRow made{NewControl<PathLabel>(names.Path, frame.Box), NewButton(names.Browse, frame.Box),
+                         NewButton(names.Clear, frame.Box)};
+    auto* row = new QHBoxLayout;
+    row->addWidget(NewLabel(names.Caption, frame.Box));
+    row->addWidget(made.Path, 1);
+    row->addWidget(made.Browse);
+    row->addWidget(made.Clear);
+    frame.Column->addLayout(row);
+    return made;
+}
+
+void FolderRow::NameButtons(const QString& purpose) const {
+    NameByCaption(*Browse, Browse->text(), purpose);
+    NameByCaption(*Clear, Clear->text(), purpose);
+}
+
+void NameByCaption(QWidget& control, QString caption, const QString& purpose) {
+    const QString ending = purpose.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(purpose);
+    control.setAccessibleName(caption.remove(u':').remove(u'&').trimmed() + ending);
 }
 
 SetupPanel::SetupPanel(int index, QWidget* parent) : QGroupBox(parent), Column(NewColumn(this)) {

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QString>
 
+class PathLabel;
 class QBoxLayout;
 class QLabel;
 class QPushButton;
@@ -41,6 +42,27 @@ struct Frame {
     QVBoxLayout* Column;
 };
 Frame NewFrame(const char* name, QWidget* parent);
+
+/// A chosen folder in one row of a frame: caption, path, Browse and Clear.
+struct FolderRowNames {
+    const char* Caption;
+    const char* Path;
+    const char* Browse;
+    const char* Clear;
+};
+struct FolderRow {
+    PathLabel* Path;
+    QPushButton* Browse;
+    QPushButton* Clear;
+
+    /// What a screen reader says for the buttons: their captions, and what the folder is for in brackets.
+    void NameButtons(const QString& purpose) const;
+};
+FolderRow AddFolderRow(const Frame& frame, const FolderRowNames& names);
+
+/// Gives a control the accessible name of its caption, without colon and access key, and what it is for in brackets
+/// (may be empty).
+void NameByCaption(QWidget& control, QString caption, const QString& purpose);
 
 /// One of the seven panels: a framed area with a column.
 class SetupPanel : public QGroupBox {

@@ -35,9 +35,10 @@ Message PhotoNotice() {
         MessageButtons::Ok, MessageIcon::Information};
 }
 
-FileDialog PhotoDialog() {
+FileDialog PhotoDialog(const QString& folder) {
     FileDialog dialog;
     dialog.Title = QStringLiteral("Find Student Photographs");
+    dialog.FileName = folder;
     dialog.Filter = QStringLiteral("JPeg (*.jpg)|*.jpg|Bit Map (*.bmp)|*.bmp");
     return dialog;
 }

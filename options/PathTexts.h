@@ -15,8 +15,8 @@ QString HtmlFolderNotice();
 /// The information before Browse for student photographs.
 Message PhotoNotice();
 
-/// The dialog that finds a student photograph.
-FileDialog PhotoDialog();
+/// The dialog that finds a student photograph; it opens in `folder` (with a trailing backslash, may be empty).
+FileDialog PhotoDialog(const QString& folder);
 
 /// A chosen photograph as its folder (with the trailing backslash, small letters) and its extension as typed, with its
 /// dot. A file of another kind is not valid; then `Folder` is the whole file name in small letters.

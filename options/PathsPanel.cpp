@@ -9,16 +9,15 @@
 #include "platform/widgets/PathLabel.h"
 #include "platform/widgets/ProgramStyle.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
+#include <QVBoxLayout>
 #include <algorithm>
 
 namespace {
 
 constexpr int OpeningHeight = 557;     // of the panel, in logical pixels (8355 twips)
 constexpr int OpeningFrameHeight = 97; // of the folder frames (1455 twips)
-constexpr int TextGap = 2;
+constexpr int TextGap = 4;
 
 constexpr FolderPickerNames DataNames{"drvHDir",        "dirHDir",  "lblDfltPath", "cmdDataPath",
                                       "cmdClrDfltPath", "lblDrive", "lblFolder",   "lblCurrent"};
@@ -76,32 +75,38 @@ void PathsPanel::AddFolderFrames() {
 void PathsPanel::AddPhotoFrame() {
     const Frame frame = NewFrame("fraPhotos", this);
     frame.Column->addWidget(NewExplanation("lblPhoto1", frame.Box));
-    photos = NewControl<PathLabel>("lblMugShotPath", frame.Box);
-    QPushButton* browse = NewButton("cmdPhotos", frame.Box);
-    QPushButton* clear = NewButton("cmdMugClear", frame.Box);
-    auto* row = new QHBoxLayout;
-    row->addWidget(NewLabel("lblMugCurrent", frame.Box));
-    row->addWidget(photos, 1);
-    row->addWidget(browse);
-    row->addWidget(clear);
-    frame.Column->addLayout(row);
-    Column->addWidget(frame.Box);
-    connect(browse, &QPushButton::clicked, this, &PathsPanel::BrowsePhotos);
-    connect(clear, &QPushButton::clicked, this, &PathsPanel::ClearPhotos);
+    photos = AddFolderRow(frame, {"lblMugCurrent", "lblMugShotPath", "cmdPhotos", "cmdMugClear"});
+    photoFrame = frame.Box;
+    Column->addWidget(photoFrame);
+    connect(photos.Browse, &QPushButton::clicked, this, &PathsPanel::BrowsePhotos);
+    connect(photos.Clear, &QPushButton::clicked, this, &PathsPanel::ClearPhotos);
 }
 
-// The folder frames have their own height when the window opens; a larger window gives them more.
 void PathsPanel::resizeEvent(QResizeEvent* event) {
     SetupPanel::resizeEvent(event);
-    const int more = std::max(0, height() - OpeningHeight) / 2;
+    SizeFolderFrames();
+}
+
+// The folder frames have their own height when the window opens, or what large letters need; room that nothing else
+// needs in a larger window goes to them.
+void PathsPanel::SizeFolderFrames() {
+    const int least = std::max(OpeningFrameHeight, classFrame->layout()->minimumSize().height());
+    int more = 0;
+    if (height() > OpeningHeight) {
+        const int others = Column->totalMinimumHeightForWidth(width()) - classFrame->height() - backupFrame->height();
+        more = std::max(0, height() - std::max(OpeningHeight, others + 2 * least)) / 2;
+    }
     for (QGroupBox* frame : {classFrame, backupFrame}) {
-        frame->setFixedHeight(std::max(OpeningFrameHeight + more, frame->minimumSizeHint().height()));
+        frame->setFixedHeight(least + more);
     }
 }
 
-void PathsPanel::NameControls() {
-    data->NameControls(classFrame->title().remove(QStringLiteral("... ")));
-    backup->NameControls(backupFrame->title().remove(QStringLiteral("... ")));
+void PathsPanel::FollowCaptions() {
+    const auto purpose = [](const QGroupBox* frame) { return frame->title().remove(QStringLiteral("... ")); };
+    data->NameControls(purpose(classFrame));
+    backup->NameControls(purpose(backupFrame));
+    photos.NameButtons(purpose(photoFrame));
+    SizeFolderFrames();
 }
 
 void PathsPanel::LoadDataPath() {
@@ -119,7 +124,7 @@ void PathsPanel::LoadBackupPath() {
 
 void PathsPanel::LoadPhotoPath() {
     ProgramConfig.PathToStudentPhotos = LowerCase(ProgramConfig.PathToStudentPhotos);
-    photos->setText(ProgramConfig.PathToStudentPhotos);
+    photos.Path->setText(ProgramConfig.PathToStudentPhotos);
 }
 
 void PathsPanel::Save() const {
@@ -129,7 +134,7 @@ void PathsPanel::Save() const {
 
 void PathsPanel::BrowsePhotos() {
     TheDesktop().ShowMessage(PhotoNotice());
-    const FileDialogAnswer answer = TheDesktop().AskForFile(PhotoDialog());
+    const FileDialogAnswer answer = TheDesktop().AskForFile(PhotoDialog(ProgramConfig.PathToStudentPhotos));
     if (answer.Error) {
         return;
     }
@@ -137,7 +142,7 @@ void PathsPanel::BrowsePhotos() {
     ProgramConfig.PathToStudentPhotos = choice.Folder;
     ProgramConfig.StudentPhotoExtension = choice.Extension;
     if (choice.IsValid) {
-        photos->setText(choice.Folder);
+        photos.Path->setText(choice.Folder);
     } else {
         TheDesktop().ShowMessage(InvalidPhoto(answer.FileName, choice.Extension));
     }
@@ -146,5 +151,5 @@ void PathsPanel::BrowsePhotos() {
 void PathsPanel::ClearPhotos() {
     ProgramConfig.PathToStudentPhotos.clear();
     ProgramConfig.StudentPhotoExtension.clear();
-    photos->setText(QString());
+    photos.Path->setText(QString());
 }

@@ -3,7 +3,6 @@
 #include "options/PanelParts.h"
 
 class FolderPicker;
-class PathLabel;
 
 /// Panel 0: the folders of class data, backups and student photographs.
 class PathsPanel : public SetupPanel {
@@ -20,8 +19,8 @@ public:
     /// Puts the labels of the data and backup folders into the settings record.
     void Save() const;
 
-    /// What a screen reader says for the folder lists; after the captions are set.
-    void NameControls();
+    /// What a screen reader says for lists and buttons, and the room that the captions take; after they are set.
+    void FollowCaptions();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -29,12 +28,14 @@ protected:
 private:
     QGroupBox* classFrame;
     QGroupBox* backupFrame;
+    QGroupBox* photoFrame;
     FolderPicker* data;
     FolderPicker* backup;
-    PathLabel* photos;
+    FolderRow photos;
 
     void AddFolderFrames();
     void AddPhotoFrame();
+    void SizeFolderFrames();
     void BrowsePhotos();
     void ClearPhotos();
 };

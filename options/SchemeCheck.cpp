@@ -71,6 +71,5 @@ QString LowestSymbolText(const QString& secondValue, bool french) {
 }
 
 QString LowestSymbolUnknownText(bool french) {
-    return french ? QStringLiteral("Pour le symbole le plus bas utiliser :")
-                  : QStringLiteral("For the lowest symbol use:");
+    return french ? QStringLiteral("Pour le plus bas utiliser :") : QStringLiteral("For the lowest symbol use:");
 }

@@ -15,8 +15,8 @@ namespace {
 
 constexpr int RowsInColumn = 10;
 constexpr int ColumnsOfHalf = 4; // number, symbol, value, gap
-constexpr int SymbolWidth = 52;  // logical pixels
-constexpr int ValueWidth = 44;
+constexpr int SymbolWidth = 48;  // logical pixels
+constexpr int ValueWidth = 40;
 
 constexpr QColor Filled(255, 255, 255);
 constexpr QColor Empty(255, 255, 128);
@@ -67,6 +67,7 @@ SchemeFields::SchemeFields(QWidget* parent) : QWidget(parent), lblABCLow(NewLabe
     }
     grid->addWidget(lblABCLow, 1, 0, Qt::AlignRight | Qt::AlignVCenter);
     lblABCLow->setBuddy(txtABCChr.front());
+    lblABCLow->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     grid->setColumnMinimumWidth(ColumnsOfHalf - 1, Spacing::Margin);
     grid->setColumnStretch(2 * ColumnsOfHalf, 1);
 }
@@ -101,6 +102,7 @@ void SchemeFields::AddPair(QGridLayout* grid, int position) {
 TextBox* SchemeFields::NewField(const char* array, int position, int longest) {
     auto* box = NewControl<TextBox>(IndexedName(array, position), this);
     box->setMaxLength(longest);
+    connect(box, &QLineEdit::textEdited, this, [box, longest] { box->setMaxLength(longest); }); // also one from a file
     connect(box, &QLineEdit::textChanged, this, [box] {
         if (box->isEnabled()) {
             ColourByText(*box);
@@ -109,7 +111,20 @@ TextBox* SchemeFields::NewField(const char* array, int position, int longest) {
     return box;
 }
 
+// Clear does not move the columns.
+void SchemeFields::KeepRoomForLowest(bool french) {
+    const QString shown = lblABCLow->text();
+    int room = 0;
+    for (const QString& text : {LowestSymbolText(QStringLiteral("99"), french), LowestSymbolUnknownText(french)}) {
+        lblABCLow->setText(text);
+        room = std::max(room, lblABCLow->sizeHint().width());
+    }
+    lblABCLow->setText(shown);
+    lblABCLow->setMinimumWidth(room);
+}
+
 void SchemeFields::NameFields(bool french) {
+    KeepRoomForLowest(french);
     for (int position = 0; position < Count; ++position) {
         const auto p = static_cast<std::size_t>(position);
         const QString number = QString::number(position + 1);

@@ -56,6 +56,7 @@ private:
     void AddHeader(QGridLayout* grid, int half, int column);
     void AddPair(QGridLayout* grid, int position);
     TextBox* NewField(const char* array, int position, int longest);
+    void KeepRoomForLowest(bool french);
     bool LeaveSymbol(TextBox& box);
     bool LeaveValue(int position, TextBox& box);
 };

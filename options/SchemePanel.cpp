@@ -6,6 +6,7 @@
 #include "platform/CodePage.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
+#include "platform/ProgramPath.h"
 #include "platform/widgets/DropDownList.h"
 #include "platform/widgets/ProgramStyle.h"
 #include "platform/widgets/TextBox.h"
@@ -22,11 +23,12 @@ constexpr int FewestLevels = 2;
 
 const QString ProblemsFound = QStringLiteral("The following problems were found: \n\n");
 
-FileDialog SchemeDialog(FileDialog::Kind kind, const QString& title) {
+FileDialog SchemeDialog(FileDialog::Kind kind, const QString& title, const QString& folder) {
     FileDialog dialog;
     dialog.DialogKind = kind;
     dialog.Title = title;
     dialog.Filter = QStringLiteral("Schemes (*.scm)|*.scm");
+    dialog.FileName = folder;
     dialog.DefaultExtension = QStringLiteral(".scm");
     dialog.OverwritePrompt = kind == FileDialog::Kind::Save;
     return dialog;
@@ -50,7 +52,7 @@ SchemePanel::SchemePanel(QWidget* parent)
       cboABCLevels(NewControl<DropDownList>("cboABCLevels", this)),
       txtABCHeading(NewControl<TextBox>("txtABCHeading", this)), cmdLoadScheme(NewButton("cmdLoadScheme", this)),
       cmdClearScheme(NewButton("cmdClearScheme", this)), cmdSaveScheme(NewButton("cmdSaveScheme", this)),
-      cmdABCCheck(NewButton("cmdABCCheck", this)) {
+      cmdABCCheck(NewButton("cmdABCCheck", this)), schemeFolder(ProgramFolder + u'\\') {
     AddControls();
     ConnectControls();
     setTabOrder(txtABCHeading, cboABCLevels);
@@ -95,7 +97,9 @@ QWidget* SchemePanel::NewSide() {
 }
 
 void SchemePanel::ConnectControls() {
-    connect(cboABCLevels, &QComboBox::currentIndexChanged, this, [this] { fields->SetHighest(Highest()); });
+    const auto click = [this] { fields->SetHighest(Highest()); };
+    connect(cboABCLevels, &QComboBox::currentIndexChanged, this, click);
+    connect(cboABCLevels, &QComboBox::activated, this, click); // the entry that was chosen before counts, too
     connect(cmdLoadScheme, &QPushButton::clicked, this, &SchemePanel::cmdLoadScheme_Click);
     connect(cmdClearScheme, &QPushButton::clicked, this, &SchemePanel::cmdClearScheme_Click);
     connect(cmdSaveScheme, &QPushButton::clicked, this, &SchemePanel::cmdSaveScheme_Click);
@@ -173,6 +177,15 @@ void SchemePanel::cmdClearScheme_Click() {
     fields->lblABCLow->setText(LowestSymbolUnknownText(inFrench));
 }
 
+// The dialog opens where the last scheme was, at first in the program folder: that is where the gradebook looks.
+FileDialogAnswer SchemePanel::AskForScheme(FileDialog::Kind kind, const QString& title) {
+    FileDialogAnswer answer = TheDesktop().AskForFile(SchemeDialog(kind, title, schemeFolder));
+    if (!answer.Error) {
+        schemeFolder = FolderOf(answer.FileName) + u'\\';
+    }
+    return answer;
+}
+
 void SchemePanel::cmdSaveScheme_Click() {
     const QString report = Check();
     if (!report.isEmpty()) {
@@ -185,8 +198,7 @@ void SchemePanel::cmdSaveScheme_Click() {
     if (ErrorPosition != 0 || !fields->TextsCanBeSaved(Highest())) {
         return;
     }
-    const FileDialogAnswer answer =
-        TheDesktop().AskForFile(SchemeDialog(FileDialog::Kind::Save, QStringLiteral("Save Scheme")));
+    const FileDialogAnswer answer = AskForScheme(FileDialog::Kind::Save, QStringLiteral("Save Scheme"));
     if (answer.Error) {
         return;
     }
@@ -200,8 +212,7 @@ void SchemePanel::cmdSaveScheme_Click() {
 }
 
 void SchemePanel::cmdLoadScheme_Click() {
-    const FileDialogAnswer answer =
-        TheDesktop().AskForFile(SchemeDialog(FileDialog::Kind::Open, QStringLiteral("Load a Scheme")));
+    const FileDialogAnswer answer = AskForScheme(FileDialog::Kind::Open, QStringLiteral("Load a Scheme"));
     if (answer.Error) {
         return;
     }

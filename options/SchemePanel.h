@@ -2,6 +2,7 @@
 
 #include "options/PanelParts.h"
 #include "options/SchemeFile.h"
+#include "platform/Desktop.h"
 
 class DropDownList;
 class QPushButton;
@@ -35,6 +36,7 @@ private:
     QPushButton* cmdClearScheme;
     QPushButton* cmdSaveScheme;
     QPushButton* cmdABCCheck;
+    QString schemeFolder; // with a trailing backslash
     bool changed = false;
     bool inFrench = false;
 
@@ -46,6 +48,7 @@ private:
     void Show(const Scheme& scheme);
     QString Check();
     bool txtABCHeading_LostFocus();
+    FileDialogAnswer AskForScheme(FileDialog::Kind kind, const QString& title);
     void cmdABCCheck_Click();
     void cmdClearScheme_Click();
     void cmdLoadScheme_Click();

@@ -15,25 +15,22 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
 namespace {
 
-// Logical pixels; a pixel is 15 twips. The margins put the panels at 8, 8 with 609 x 557 in a window of 800 x 600.
-constexpr QSize OpeningSize(800, 600);
+// Logical pixels; a pixel is 15 twips. The margins put the panels at 8, 8 with 609 x 557 in the window of 800 x 600.
 constexpr int Margin = 8;
 constexpr int SideWidth = 167;
 constexpr int ButtonRowHeight = 27;
 constexpr int SideSpacing = 4;
+constexpr int ButtonWidth = 80; // two and the gap are as wide as the side
 constexpr int PictureSize = 24;
 
 } // namespace
 
-frmSetUp_SU::frmSetUp_SU(QWidget* parent) : QDialog(parent) {
-    setObjectName(QStringLiteral("frmSetUp_SU"));
-    setModal(true);
+frmSetUp_SU::frmSetUp_SU(QWidget* parent) : OptionsWindow("frmSetUp_SU", parent) {
     MakePanels();
     ArrangeControls();
     Form_Load();
@@ -75,7 +72,7 @@ void frmSetUp_SU::ArrangeControls() {
     }
     side->addStretch();
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(Margin);
+    buttons->setSpacing(SideWidth - 2 * ButtonWidth);
     buttons->addStretch();
     buttons->addWidget(imgSave);
     buttons->addWidget(cmdPrefSave);
@@ -91,7 +88,6 @@ void frmSetUp_SU::ArrangeControls() {
 }
 
 void frmSetUp_SU::Form_Load() {
-    resize(OpeningSize);
     if (ProgramEdition == Edition::French) {
         SpeakFrench_Setup();
     } else {
@@ -127,7 +123,7 @@ void frmSetUp_SU::SetEditionLanguage(bool french) {
     html->FillOrders();
     setWindowTitle(ProductName + QStringLiteral(" - GENERAL OPTIONS"));
     ApplyCaptions(*this, SetupCaptions(), french ? CaptionLanguage::French : CaptionLanguage::English);
-    paths->NameControls();
+    paths->FollowCaptions();
     scheme->SetLanguage(french);
     barCodes->NameFields(french);
 }
@@ -153,6 +149,7 @@ void frmSetUp_SU::ShowPanel() {
     cmdSetup[shown]->ShowAsCurrent(true);
     p3dSetup[shown]->show();
     if (isVisible()) { // the load has nothing to paint yet
+        KeepContentsWhole();
         TheDesktop().ProcessPendingEvents();
     }
 }
@@ -194,18 +191,7 @@ void frmSetUp_SU::cmdPrefCancel_Click() {
 
 void frmSetUp_SU::reject() {
     cmdPrefCancel_Click();
-    QDialog::reject();
-}
-
-// Enter presses the button that has the focus and nothing else.
-void frmSetUp_SU::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
-        QDialog::keyPressEvent(event);
-        return;
-    }
-    if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
-        button->click();
-    }
+    OptionsWindow::reject();
 }
 
 void frmSetUp_SU::FindWordProcessor() {

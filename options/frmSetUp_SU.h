@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDialog>
+#include "platform/widgets/OptionsWindow.h"
+
 #include <array>
 #include <cstdint>
 
@@ -18,7 +19,7 @@ class SetupPanel;
 
 /// General Options: seven panels, a button for each, Save and Cancel. The window shows the settings record as it is
 /// when the window is made; Save writes the edits back into it and has it written to the configuration files.
-class frmSetUp_SU : public QDialog {
+class frmSetUp_SU : public OptionsWindow {
     Q_OBJECT
 
 public:
@@ -30,9 +31,6 @@ public:
 
     /// Cancel, Escape and the window's close button.
     void reject() override;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     static constexpr std::int16_t LastPanel = 6;

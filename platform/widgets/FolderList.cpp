@@ -127,6 +127,8 @@ void FolderList::resizeEvent(QResizeEvent* event) {
     ScrollToFolder();
 }
 
+void FolderList::drawBranches(QPainter* /*painter*/, const QRect& /*rect*/, const QModelIndex& /*index*/) const {}
+
 QTreeWidgetItem* FolderList::NewEntry(QTreeWidgetItem* parent, const QString& name, const QString& whole,
                                       QStyle::StandardPixmap icon) {
     auto* entry = new QTreeWidgetItem(parent, {name});

@@ -18,12 +18,16 @@ OptionsWindow::OptionsWindow(const char* name, QWidget* parent) : QDialog(parent
 }
 
 void OptionsWindow::showEvent(QShowEvent* event) {
+    KeepContentsWhole();
+    QDialog::showEvent(event);
+}
+
+void OptionsWindow::KeepContentsWhole() {
     if (layout() != nullptr) {
         const int width = std::max(layout()->minimumSize().width(), WindowSize.width());
         const int height = layout()->totalMinimumHeightForWidth(width); // wrapped texts need more than minimumSize says
         setMinimumSize(width, std::max(height, WindowSize.height()));
     }
-    QDialog::showEvent(event);
 }
 
 void OptionsWindow::keyPressEvent(QKeyEvent* event) {

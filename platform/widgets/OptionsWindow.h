@@ -15,4 +15,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+
+    /// Grows where what is shown needs more room than the window has; again when other controls are shown.
+    void KeepContentsWhole();
 };

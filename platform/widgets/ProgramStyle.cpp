@@ -20,8 +20,11 @@ QFont TitleFont(const QWidget* widget) {
 }
 
 QRect TitleRect(const QStyleOptionGroupBox& box, const QWidget* widget) {
-    const int height = QFontMetrics(TitleFont(widget)).height();
-    return {box.rect.left() + TitleLeft, box.rect.top() + TitleTop, box.rect.width() - 2 * TitleLeft, height};
+    const QFontMetrics metrics(TitleFont(widget));
+    const int height = metrics.height();
+    const bool blankFirst = box.text.startsWith(u' '); // the letters of all titles begin at one line
+    const int left = TitleLeft - (blankFirst ? metrics.horizontalAdvance(u' ') : 0);
+    return {box.rect.left() + left, box.rect.top() + TitleTop, box.rect.width() - 2 * TitleLeft, height};
 }
 
 QColor Blend(const QColor& one, const QColor& other, qreal share) {

@@ -1,3 +1,4 @@
+#include "options/BarCodePanel.h"
 #include "tests/options/SetupFixture.h"
 
 namespace {
@@ -104,6 +105,46 @@ TEST_F(BarCode, StoredDescriptionWithoutACodeIsKeptUntilItIsChanged) {
     EXPECT_TRUE(Description(2)->isEnabled());
     Click("cmdPrefSave");
     EXPECT_EQ(Saved(), file);
+}
+
+TEST_F(BarCode, BrokenFontIsReportedOnceAndTheWindowGoesOn) {
+    Start(WithLines(Base(), {{15, "\"\""}}));
+    BarCodePanel panel(nullptr,
+                       [](QLabel&, const QString& name, int) { return name != QStringLiteral("Broken, \"39\""); });
+    panel.Load();
+    EXPECT_EQ(Titles(), QString());
+    Screen.AnswerFont(QStringLiteral("Broken, \"39\""));
+    Screen.Answer(MessageAnswer::Ok);
+    Find<QPushButton>(panel, "cmdBCAFont")->click();
+    ASSERT_EQ(Titles(), QStringLiteral("FONT ERROR"));
+    EXPECT_EQ(Screen.Messages[0].Text, QStringLiteral("An error has occurred with the font: Broken, \"39\""));
+    EXPECT_EQ(Screen.Messages[0].Buttons, MessageButtons::Ok);
+    EXPECT_TRUE(Find<QRadioButton>(panel, "optBCADflt(1)")->isEnabled());
+    EXPECT_EQ(Find<QLabel>(panel, "lblBCAFontName")->text(), QStringLiteral("Broken, \"39\""));
+    Find<QPushButton>(panel, "cmdBCAClear")->click();
+    EXPECT_EQ(Screen.Messages.size(), 1U);
+}
+
+TEST_F(BarCode, FontsThatTheMachineHasOrLacksAreNoError) {
+    const QStringList families = QFontDatabase::families();
+    ASSERT_FALSE(families.isEmpty());
+    for (const QString& font : QStringList{families.first(), families.last().toUpper(), QStringLiteral("None 39")}) {
+        Start(WithLines(Base(), {{15, '"' + font.toLatin1() + '"'}}));
+        Open();
+        EXPECT_EQ(Titles(), QString()) << font.toStdString();
+    }
+}
+
+TEST_F(BarCode, LongOrTallFontsDoNotMoveThePanel) {
+    Start(WithLines(Base(), {{15, '"' + QByteArray("Code 39 ").repeated(40) + '"'}}));
+    OpenPanel(3);
+    for (int field = 0; field < 3; ++field) {
+        C<QLabel>(QStringLiteral("lblBCCode(%1)").arg(field))->setFont(QFont(QStringLiteral("Sans"), 200));
+    }
+    C<QLabel>(QStringLiteral("lblBCAFSample"))->setFont(QFont(QStringLiteral("Sans"), 200));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Window->size(), QSize(800, 600));
+    EXPECT_EQ(C<QWidget>(QStringLiteral("p3dSetup(3)"))->size(), QSize(609, 557));
 }
 
 TEST_F(BarCode, RefusedDescriptionStaysInTheBox) {

@@ -48,7 +48,7 @@ struct NameCase {
 
 TEST(FolderTexts, DummyFileStandsInTheFolder) {
     for (const NameCase& row : {NameCase{"c:\\marks", "c:\\marks\\Don't_Delete_Me"},
-                                NameCase{"c:\\", "c:\\Don't_Delete_Me"}, NameCase{"", "Don't_Delete_Me"}}) {
+                                NameCase{"c:\\", "c:\\Don't_Delete_Me"}, NameCase{"", "\\Don't_Delete_Me"}}) {
         EXPECT_EQ(DummyFileIn(QString::fromUtf8(row.From)), QString::fromUtf8(row.To)) << row.From;
     }
 }

@@ -93,7 +93,7 @@ TEST_F(Html, BrowseProposesTheDummyFileInTheReportFolder) {
         EXPECT_EQ(Screen.Messages.back().Title, QStringLiteral("Select HTML Report Folder"));
         EXPECT_EQ(Screen.FileDialogs.back().Title, QStringLiteral("Locate Gradewell Data Folders"));
         EXPECT_EQ(Screen.FileDialogs.back().FileName,
-                  *stored == 0 ? QStringLiteral("Don't_Delete_Me") : QStringLiteral("c:\\html\\Don't_Delete_Me"));
+                  *stored == 0 ? QStringLiteral("\\Don't_Delete_Me") : QStringLiteral("c:\\html\\Don't_Delete_Me"));
         EXPECT_EQ(TextOf("lblHTML_Path"), QString::fromUtf8(stored));
     }
 }

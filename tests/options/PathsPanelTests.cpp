@@ -195,6 +195,8 @@ TEST_F(Paths, PhotoOfAnotherKindIsRefusedButTakenIntoTheRecord) {
     EXPECT_EQ(ProgramConfig.PathToStudentPhotos, QStringLiteral("c:\\other\\1.png"));
     EXPECT_EQ(ProgramConfig.StudentPhotoExtension, QStringLiteral(".PNG"));
     EXPECT_EQ(Screen.FileDialogs[0].Title, QStringLiteral("Find Student Photographs"));
+    EXPECT_EQ(Screen.FileDialogs[0].DialogKind, FileDialog::Kind::Open);
+    EXPECT_EQ(Screen.FileDialogs[0].FileName, QStringLiteral("c:\\photos\\"));
     EXPECT_EQ(Screen.FileDialogs[0].Filter, QStringLiteral("JPeg (*.jpg)|*.jpg|Bit Map (*.bmp)|*.bmp"));
 }
 

@@ -42,6 +42,28 @@ TEST_F(SchemeEditor, LoadedTextsStayAsTheyStandInTheFile) {
     EXPECT_EQ(Machine.Read(QStringLiteral("c:\\other\\again.scm")), file);
 }
 
+TEST_F(SchemeEditor, EditedTextFromAFileIsNoLongerThanATypedOne) {
+    OpenPanel(6);
+    Load("\"H\",\"c\"\r\n\"F\",\"0\"\r\n\"P\",\"0050\"\r\n");
+    QTest::mouseClick(Value(1), Qt::LeftButton);
+    QTest::keyClick(Value(1), Qt::Key_Home);
+    QTest::keyClick(Value(1), Qt::Key_9);
+    EXPECT_EQ(Value(1)->text(), QStringLiteral("0050")) << "there is no room for another digit";
+    QTest::keyClick(Value(1), Qt::Key_Delete);
+    EXPECT_EQ(Value(1)->text(), QStringLiteral("05"));
+    QTest::keyClick(Value(1), Qt::Key_9);
+    EXPECT_EQ(Value(1)->text(), QStringLiteral("05"));
+}
+
+TEST_F(SchemeEditor, DialogsOpenInTheProgramFolderAndThenWhereTheLastSchemeWas) {
+    OpenPanel(6);
+    SaveFile("");
+    EXPECT_EQ(Screen.FileDialogs.back().FileName, QStringLiteral("c:\\gradewell\\"));
+    SaveFile(File);
+    LoadFile("");
+    EXPECT_EQ(Screen.FileDialogs.back().FileName, QStringLiteral("c:\\other\\"));
+}
+
 TEST_F(SchemeEditor, QuoteFromAFileIsRefusedBeforeItSpoilsAnother) {
     OpenPanel(6);
     Load("H,c\r\nF,0\r\na\"b,50\r\n");

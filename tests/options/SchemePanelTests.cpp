@@ -29,6 +29,20 @@ TEST_F(SchemeEditor, NumberOfLevelsEmptiesAndOpensFields) {
     EXPECT_TRUE(Value(18)->isEnabled());
 }
 
+TEST_F(SchemeEditor, ChoosingTheSameNumberAgainColoursByTheTexts) {
+    OpenPanel(6);
+    Enter(QStringLiteral("txtABCVal(5)"), QStringLiteral("60"));
+    Screen.Answer(MessageAnswer::Ok);
+    Click("cmdABCCheck");
+    EXPECT_EQ(ColourOf(Value(5)), Pink);
+    Levels()->setFocus();
+    Levels()->showPopup();
+    QTest::keyClick(Levels()->view(), Qt::Key_Return);
+    EXPECT_EQ(Levels()->currentText(), QStringLiteral("13"));
+    EXPECT_EQ(ColourOf(Value(5)), White);
+    EXPECT_EQ(Value(5)->text(), QStringLiteral("60"));
+}
+
 TEST_F(SchemeEditor, FieldsShowWhetherTheyAreEmpty) {
     OpenPanel(6);
     Type(QStringLiteral("txtABCChr(3)"), QString());
@@ -198,6 +212,21 @@ TEST_F(SchemeEditor, ClearKeepsHeadingAndLevels) {
     for (int p = 0; p <= 18; ++p) {
         EXPECT_EQ(Symbol(p)->text() + Value(p)->text(), QString()) << p;
         EXPECT_EQ(ColourOf(Symbol(p)), p <= 12 ? Yellow : Cyan) << p;
+    }
+}
+
+TEST_F(SchemeEditor, ClearMovesNothingInEitherEdition) {
+    for (const Edition edition : {Edition::English, Edition::French}) {
+        Start(Base(), edition);
+        OpenPanel(6);
+        QCoreApplication::processEvents();
+        const QPoint before = Symbol(0)->mapTo(Window.get(), QPoint());
+        Click("cmdClearScheme");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Symbol(0)->mapTo(Window.get(), QPoint()), before);
+        EXPECT_EQ(Window->size(), QSize(800, 600));
+        const auto* low = C<QLabel>(QStringLiteral("lblABCLow"));
+        EXPECT_LE(low->sizeHint().width(), low->width());
     }
 }
 

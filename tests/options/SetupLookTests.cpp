@@ -218,6 +218,33 @@ TEST_P(SetupOfEdition, EveryControlHasAnAccessibleName) {
     }
 }
 
+TEST_P(SetupOfEdition, ButtonsThatLookAlikeHaveNamesOfTheirOwn) {
+    Start(Base(), GetParam());
+    Open();
+    QStringList names;
+    for (QWidget* control : TabOrder()) {
+        const QString given = control->accessibleName(); // that of a list is what it shows
+        names.append(given.isEmpty() ? QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name) : given);
+    }
+    EXPECT_EQ(names.removeDuplicates(), 0) << names.join(u'|').toStdString();
+}
+
+// A desktop with large letters: each panel gets the room it needs when it is shown.
+TEST_P(SetupOfEdition, GrowsForALargeFont) {
+    Start(Base(), GetParam());
+    const QFont before = QApplication::font();
+    QApplication::setFont(QFont(before.family(), before.pointSize() * 2));
+    Open();
+    for (int panel = 0; panel <= 6; ++panel) {
+        ShowPanel(panel);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return Window->height() >= Window->minimumHeight(); }));
+        const auto* shown = C<QWidget>(QStringLiteral("p3dSetup(%1)").arg(panel));
+        EXPECT_GE(shown->width(), shown->minimumSizeHint().width()) << panel;
+        EXPECT_GE(shown->height(), shown->layout()->totalMinimumHeightForWidth(shown->width())) << panel;
+    }
+    QApplication::setFont(before);
+}
+
 INSTANTIATE_TEST_SUITE_P(Editions, SetupOfEdition, testing::Values(Edition::English, Edition::French));
 
 } // namespace

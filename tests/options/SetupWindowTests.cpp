@@ -198,13 +198,18 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return std::string(row.param.Name); });
 
 TEST_F(SetupWindow, SharedAccessKeysMoveBetweenTheirButtons) {
-    OpenPanel(6);
     struct Row {
+        Edition InEdition;
         Qt::Key Key;
         QStringList Buttons;
     };
-    for (const Row& row : {Row{Qt::Key_S, {QStringLiteral("cmdPrefSave"), QStringLiteral("cmdSaveScheme")}},
-                           Row{Qt::Key_C, {QStringLiteral("cmdClearScheme"), QStringLiteral("cmdPrefCancel")}}}) {
+    const QStringList saves{QStringLiteral("cmdPrefSave"), QStringLiteral("cmdSaveScheme")};
+    for (const Row& row :
+         {Row{Edition::English, Qt::Key_S, saves},
+          Row{Edition::English, Qt::Key_C, {QStringLiteral("cmdClearScheme"), QStringLiteral("cmdPrefCancel")}},
+          Row{Edition::French, Qt::Key_E, saves}}) {
+        Start(Base(), row.InEdition);
+        OpenPanel(6);
         QStringList reached;
         for (int press = 0; press < 4; ++press) {
             AccessKey(*Window, row.Key);

@@ -93,7 +93,7 @@ void TakeMenu(Edition edition, PictureTaker& pictures) {
 }
 
 void TakeGeneralOptions(Edition edition, PictureTaker& pictures) {
-    const Scene scene(edition);
+    Scene scene(edition);
     frmSetUp_SU window;
     const char* panels[] = {"paths", "dates", "mail", "bar-codes", "printer", "html-report", "grade-schemes"};
     int index = 0;
@@ -101,6 +101,13 @@ void TakeGeneralOptions(Edition edition, PictureTaker& pictures) {
         ControlOf<QPushButton>(window, QStringLiteral("cmdSetup(%1)").arg(index++)).click();
         pictures.Take(window, (std::string("general-options-") + panel).c_str());
     }
+    ControlOf<QLineEdit>(window, QStringLiteral("txtABCChr(2)")).setText(QStringLiteral("d-"));
+    ControlOf<QLineEdit>(window, QStringLiteral("txtABCVal(4)")).clear();
+    scene.Machine.Screen.Answer(MessageAnswer::Ok);
+    ControlOf<QPushButton>(window, QStringLiteral("cmdABCCheck")).click();
+    pictures.Take(window, "general-options-scheme-problems");
+    ControlOf<QPushButton>(window, QStringLiteral("cmdClearScheme")).click();
+    pictures.Take(window, "general-options-scheme-cleared");
 }
 
 void TakeImport(Edition edition, PictureTaker& pictures) {
