@@ -51,6 +51,7 @@ void BarCodePanel::AddFormOptions() {
         optBCADflt.at(static_cast<std::size_t>(i)) = option;
         row->addWidget(option);
     }
+    MakeOneTabStop({optBCADflt.begin(), optBCADflt.end()});
     row->addStretch();
     Column->addLayout(row);
 }

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -56,6 +57,22 @@ FolderRow AddFolderRow(const Frame& frame, const FolderRowNames& names) {
     row->addWidget(made.Clear);
     frame.Column->addLayout(row);
     return made;
+}
+
+void MakeOneTabStop(const QList<QRadioButton*>& options) {
+    const auto choose = [options](const QRadioButton* stop) {
+        for (QRadioButton* option : options) {
+            option->setFocusPolicy(option == stop ? Qt::StrongFocus : Qt::ClickFocus);
+        }
+    };
+    choose(options.first());
+    for (const QRadioButton* option : options) {
+        QObject::connect(option, &QRadioButton::toggled, option, [choose, option](bool chosen) {
+            if (chosen) {
+                choose(option);
+            }
+        });
+    }
 }
 
 void FolderRow::NameButtons(const QString& purpose) const {

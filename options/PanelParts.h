@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QGroupBox>
+#include <QList>
 #include <QString>
 
 class PathLabel;
 class QBoxLayout;
 class QLabel;
 class QPushButton;
+class QRadioButton;
 class QVBoxLayout;
 
 /// Parts that the panels of General Options are made of, so that all look alike.
@@ -59,6 +61,9 @@ struct FolderRow {
     void NameButtons(const QString& purpose) const;
 };
 FolderRow AddFolderRow(const Frame& frame, const FolderRowNames& names);
+
+/// Makes options of which one is chosen a single stop of Tab: the chosen one, or the first as long as none is.
+void MakeOneTabStop(const QList<QRadioButton*>& options);
 
 /// Gives a control the accessible name of its caption, without colon and access key, and what it is for in brackets
 /// (may be empty).

@@ -56,6 +56,7 @@ void PrinterPanel::AddLinesFrame() {
         grid->addWidget(option, i % LinesInColumn, i / LinesInColumn, Qt::AlignLeft);
         optThickLine.at(static_cast<std::size_t>(i)) = option;
     }
+    MakeOneTabStop({optThickLine.begin(), optThickLine.end()});
     grid->setColumnStretch(2, 1);
     frame.Column->addLayout(grid);
     Column->addWidget(frame.Box);

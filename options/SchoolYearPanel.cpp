@@ -47,6 +47,7 @@ void SchoolYearPanel::AddFormatFrame() {
         option = NewControl<QRadioButton>(IndexedName("optDFormat", code), frame.Box);
         options->addWidget(option, 0, Qt::AlignLeft);
     }
+    MakeOneTabStop({optDFormat.begin() + FirstDateFormat, optDFormat.end()});
     row->addLayout(options);
     QLabel* explanation = NewExplanation("lblDF1", frame.Box);
     row->addWidget(explanation, 1, Qt::AlignTop);

@@ -13,6 +13,17 @@ protected:
         return widget->property(property).toString();
     }
 
+    // Pair by pair, then the side with heading, levels and buttons.
+    static QStringList SchemeOrder() {
+        QStringList order;
+        for (int p = 0; p <= 12; ++p) {
+            order << QStringLiteral("txtABCChr(%1)").arg(p) << QStringLiteral("txtABCVal(%1)").arg(p);
+        }
+        return order + QStringList{QStringLiteral("txtABCHeading"),  QStringLiteral("cboABCLevels"),
+                                   QStringLiteral("cmdLoadScheme"),  QStringLiteral("cmdSaveScheme"),
+                                   QStringLiteral("cmdClearScheme"), QStringLiteral("cmdABCCheck")};
+    }
+
     // The controls that Tab reaches on the panel shown, in the order of Tab.
     QList<QWidget*> TabOrder() {
         QList<QWidget*> order;
@@ -177,18 +188,15 @@ TEST_P(SetupOfEdition, TabFollowsTheEye) {
          QStringLiteral("cmdClrDfltPath"), QStringLiteral("drvBkupPath"), QStringLiteral("dirBkupPath"),
          QStringLiteral("cmdBkupPathBrowse"), QStringLiteral("cmdBkupPathClear"), QStringLiteral("cmdPhotos"),
          QStringLiteral("cmdMugClear")},
-        {QStringLiteral("cboSYSM"), QStringLiteral("optDFormat(1)"), QStringLiteral("optDFormat(2)"),
-         QStringLiteral("optDFormat(3)"), QStringLiteral("optDFormat(4)"), QStringLiteral("optDFormat(5)"),
-         QStringLiteral("optDFormat(6)")},
+        {QStringLiteral("cboSYSM"), QStringLiteral("optDFormat(4)"), QStringLiteral("cmdSetup(0)")},
         {QStringLiteral("txtSMTP")},
-        {QStringLiteral("cmdBCAFont"), QStringLiteral("cmdBCAClear"), QStringLiteral("optBCADflt(0)"),
-         QStringLiteral("optBCADflt(1)"), QStringLiteral("txtBCADesc(0)"), QStringLiteral("cboBCACode(0)"),
-         QStringLiteral("txtBCADesc(1)"), QStringLiteral("cboBCACode(1)"), QStringLiteral("txtBCADesc(2)"),
-         QStringLiteral("cboBCACode(2)")},
-        {QStringLiteral("chkHCDialog"), QStringLiteral("optThickLine(0)")},
+        {QStringLiteral("cmdBCAFont"), QStringLiteral("cmdBCAClear"), QStringLiteral("optBCADflt(1)"),
+         QStringLiteral("txtBCADesc(0)"), QStringLiteral("cboBCACode(0)"), QStringLiteral("txtBCADesc(1)"),
+         QStringLiteral("cboBCACode(1)"), QStringLiteral("txtBCADesc(2)"), QStringLiteral("cboBCACode(2)")},
+        {QStringLiteral("chkHCDialog"), QStringLiteral("optThickLine(1)"), QStringLiteral("cmdSetup(0)")},
         {QStringLiteral("txtHTML_School"), QStringLiteral("txtHTML_File_Sep1"), QStringLiteral("txtHTML_File_Sep2"),
          QStringLiteral("cboHTML_FileNameOrder"), QStringLiteral("cmdHTML_Browse"), QStringLiteral("cmdHTML_Clear")},
-        {QStringLiteral("txtABCChr(0)"), QStringLiteral("txtABCVal(0)"), QStringLiteral("txtABCChr(1)")}};
+        SchemeOrder()};
     const QStringList after{
         QStringLiteral("cmdSetup(0)"), QStringLiteral("cmdSetup(1)"), QStringLiteral("cmdSetup(2)"),
         QStringLiteral("cmdSetup(3)"), QStringLiteral("cmdSetup(4)"), QStringLiteral("cmdSetup(5)"),
