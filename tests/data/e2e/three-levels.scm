@@ -1,0 +1,4 @@
+"Level"," <- Heading for General Analysis columns"
+"F","0"
+"D-","50"
+"D","60"

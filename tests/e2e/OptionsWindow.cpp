@@ -1,0 +1,128 @@
+#include "tests/e2e/OptionsWindow.h"
+
+#include "tests/e2e/MenuSteps.h"
+#include "tests/e2e/Screen.h"
+
+namespace {
+
+const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
+const QString FileNameBox = QStringLiteral("fileNameEdit");
+
+QString Name(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+QString FocusOf(const SeenWindow& window) {
+    for (const SeenControl& control : window.Controls) {
+        if (control.Focused && !control.Name.startsWith(QLatin1String("qt_"))) {
+            return control.Name;
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+OptionsWindow::OptionsWindow() : Installed(GetParam() == "french" ? FrenchNames() : EnglishNames()) {
+    for (const char* folder : {"marks/2016", "marks/old", "backup/daily", "photos", "pictures", "html", "reports"}) {
+        Installed.MakeFolder(QStringLiteral("network/") + Name(folder));
+    }
+    Installed.Write(QStringLiteral("network/pictures/7.BMP"), "BM");
+    Installed.Write(QStringLiteral("drives.conf"), "G=" + Network.toUtf8() + "\n");
+}
+
+QByteArray OptionsWindow::State(const char* state) const {
+    return EditionGolden(Installed, state);
+}
+
+void OptionsWindow::Open(const QByteArray& configFile, const QString& active) {
+    Installed.Write(Newer, configFile);
+    Program = StartToMenu(Installed);
+    Program->Press(Installed.Edition.MenuTitle, QStringLiteral("alt+g"));
+    Program->AwaitWindow(active.isEmpty() ? Title : active);
+}
+
+void OptionsWindow::Click(const char* control) {
+    Program->Click(Title, Name(control));
+}
+
+void OptionsWindow::Press(const char* chord) {
+    Program->Press(Title, Name(chord));
+}
+
+QString OptionsWindow::FocusedControl() {
+    return FocusOf(Program->AwaitWindow(Title));
+}
+
+void OptionsWindow::TabTo(const char* control) {
+    constexpr int moreThanThereAreControls = 60;
+    for (int tabs = 0; tabs < moreThanThereAreControls; ++tabs) {
+        const QString before = FocusedControl();
+        if (before == Name(control)) {
+            return;
+        }
+        Press("Tab");
+        Program->Await(QStringLiteral("the keyboard to leave ") + before, [&](const SeenScreen& screen) {
+            const SeenWindow* window = screen.Window(Title);
+            return window != nullptr && FocusOf(*window) != before;
+        });
+    }
+    FAIL() << control << " cannot be reached by Tab";
+}
+
+void OptionsWindow::Work(const char* control, const char* chord) {
+    TabTo(control);
+    Press(chord);
+}
+
+void OptionsWindow::AwaitText(const char* control, const char* text) {
+    Program->AwaitText(Title, Name(control), Name(text));
+}
+
+void OptionsWindow::AwaitChecked(const char* option) {
+    Program->AwaitControl(Title, Name(option), QStringLiteral("to be chosen"),
+                          [](const auto& seen) { return seen.Checked; });
+}
+
+void OptionsWindow::ClickPanel(int panel) {
+    Program->Click(Title, QStringLiteral("cmdSetup(%1)").arg(panel));
+    Program->AwaitControl(Title, QStringLiteral("p3dSetup(%1)").arg(panel), QStringLiteral("to show"),
+                          [](const auto& seen) { return seen.Visible; });
+}
+
+void OptionsWindow::WorkPanel(int panel) {
+    Work(QStringLiteral("cmdSetup(%1)").arg(panel).toUtf8().constData(), "space");
+    Program->AwaitControl(Title, QStringLiteral("p3dSetup(%1)").arg(panel), QStringLiteral("to show"),
+                          [](const auto& seen) { return seen.Visible; });
+}
+
+void OptionsWindow::AnswerNotice(const char* title) {
+    Program->Press(Name(title), QStringLiteral("Return"));
+}
+
+// The information box before a dialog may have the dialog's title.
+void OptionsWindow::AnswerFileDialog(const char* title, const QString& nativeName) {
+    Program->Await(QStringLiteral("the dialog \"%1\"").arg(Name(title)), [&](const SeenScreen& screen) {
+        const SeenWindow* dialog = screen.Window(Name(title));
+        return dialog != nullptr && dialog->Active && dialog->Has(FileNameBox) && dialog->Control(FileNameBox).Focused;
+    });
+    PressKey(QStringLiteral("ctrl+a"));
+    TypeText(nativeName);
+    Program->AwaitText(Name(title), FileNameBox, nativeName);
+    PressKey(QStringLiteral("Return"));
+    Program->AwaitNoWindow(Name(title));
+}
+
+void OptionsWindow::ChooseFont(const QString& name) {
+    const QString dialog = QStringLiteral("Select Font");
+    Program->AwaitWindow(dialog);
+    TypeText(name);
+    Program->Press(dialog, QStringLiteral("Return"));
+    Program->AwaitNoWindow(dialog);
+}
+
+void OptionsWindow::ExpectSaved(const QByteArray& bytes) {
+    Program->AwaitNoWindow(Title);
+    Program->AwaitWindow(Installed.Edition.MenuTitle);
+    AwaitBothFiles(*Program, Installed, bytes);
+}
