@@ -6,17 +6,25 @@
 
 namespace {
 
+// What a reader takes for nothing behind the last line.
+QByteArray LineEnds(qsizetype size) {
+    return size % 2 == 1 ? '\n' + LineEnds(size - 1) : QByteArray("\r\n").repeated(size / 2);
+}
+
+// After each call the file is the old or the new one, with nothing but line ends behind it while it is too long. The
+// old part is overwritten in one call, and reaches the disk before the rest is cut off.
 int Overwrite(OpenFile& open, qsizetype oldSize, const QByteArray& bytes) {
     int failure = 0;
     if (bytes.size() > oldSize) {
-        failure = open.WriteAllAt(oldSize, bytes.mid(oldSize));
+        failure = open.WriteAllAt(oldSize, LineEnds(bytes.size() - oldSize));
         failure = failure != 0 ? failure : open.Sync(); // some systems find the space only now
     }
     if (failure == 0) {
-        failure = open.WriteAllAt(0, bytes.left(std::min(oldSize, bytes.size())));
+        failure = open.WriteAllAt(0, bytes + LineEnds(std::max<qsizetype>(0, oldSize - bytes.size())));
     }
     if (failure == 0 && bytes.size() < oldSize) {
-        failure = open.Truncate(bytes.size());
+        failure = open.Sync();
+        failure = failure != 0 ? failure : open.Truncate(bytes.size());
     }
     return failure != 0 ? failure : open.Sync();
 }
@@ -34,12 +42,11 @@ int OverwriteAndCompare(SystemCalls& calls, const NativePath& file, qsizetype ol
     return failure == 0 && written != bytes ? EIO : failure;
 }
 
-// Each step is tried whatever became of the one before.
+// What cannot be written again is not cut off either: it may be wholly the new file.
 void PutBack(SystemCalls& calls, const NativePath& file, const QByteArray& old) {
     OpenFile open(calls, RetriedWhileHeld(calls, [&] { return calls.OpenForWriting(file); }));
-    if (open.Failure() == 0) {
+    if (open.Failure() == 0 && open.WriteAllAt(0, old) == 0) {
         open.Truncate(old.size());
-        open.WriteAllAt(0, old);
         open.Sync();
     }
 }

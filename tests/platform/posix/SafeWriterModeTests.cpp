@@ -1,5 +1,6 @@
 #include "platform/SafeWriter.h"
 #include "tests/support/FaultyCalls.h"
+#include "tests/support/OtherUser.h"
 #include "tests/support/TestFolder.h"
 
 #include <filesystem>
@@ -22,26 +23,6 @@ struct stat StatusOf(const NativePath& path) {
 unsigned ModeOf(const NativePath& path) {
     return StatusOf(path).st_mode & 07777U;
 }
-
-// Another user's rights for a part of a test that an administrator runs.
-class AsUser {
-public:
-    explicit AsUser(unsigned user) : administrator(geteuid() == 0) {
-        if (administrator) {
-            EXPECT_EQ(setegid(user), 0);
-            EXPECT_EQ(seteuid(user), 0);
-        }
-    }
-    ~AsUser() {
-        if (administrator) {
-            EXPECT_EQ(seteuid(0), 0);
-            EXPECT_EQ(setegid(0), 0);
-        }
-    }
-
-private:
-    bool administrator;
-};
 
 } // namespace
 
@@ -194,7 +175,7 @@ TEST(SafeWriterModes, WritesInPlaceInAFolderThatTakesNoNewFile) {
     }
     ASSERT_EQ(chmod(root.c_str(), 0555), 0);
     {
-        const AsUser user(65534);
+        const OtherUser user;
         for (const QByteArray bytes : {"longer than the old bytes were", "short", ""}) {
             EXPECT_FALSE(SafeSave(RealSystemCalls(), folder.Native(Target), bytes));
             EXPECT_EQ(folder.Read(Target), bytes);
@@ -218,7 +199,7 @@ TEST(SafeWriterModes, WritesInPlaceInASharedFolderThatKeepsFilesToTheirOwners) {
     ASSERT_EQ(chmod(folder.Native(Target).c_str(), 0646), 0);
     ASSERT_EQ(chmod(root.c_str(), 01777), 0);
     {
-        const AsUser user(65534);
+        const OtherUser user;
         EXPECT_FALSE(SafeSave(RealSystemCalls(), folder.Native(Target), "new"));
     }
     EXPECT_EQ(folder.Read(Target), "new");
