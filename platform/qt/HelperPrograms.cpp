@@ -1,5 +1,27 @@
 #include "platform/qt/HelperPrograms.h"
 
+#ifndef Q_OS_WIN
+#include <QProcess>
+
+namespace {
+
+// EDITOR's words, its program found; empty when it is not there. As everywhere, EDITOR may hold arguments, double
+// quotes keep blanks together, and a program's own path may have blanks in it. No shell reads it.
+QStringList EditorCommand(const HelperSurroundings& surroundings) {
+    const QString whole = surroundings.FindProgram(surroundings.Editor);
+    if (!whole.isEmpty()) {
+        return {whole};
+    }
+    QStringList words = QProcess::splitCommand(surroundings.Editor);
+    if (!words.isEmpty()) {
+        words[0] = surroundings.FindProgram(words[0]);
+    }
+    return words.isEmpty() || words[0].isEmpty() ? QStringList() : words;
+}
+
+} // namespace
+#endif
+
 HelperCommand CommandFor(HelperProgram program, const QString& nativePath,
                          [[maybe_unused]] const HelperSurroundings& surroundings) {
 #ifdef Q_OS_WIN
@@ -11,9 +33,9 @@ HelperCommand CommandFor(HelperProgram program, const QString& nativePath,
         return {opener, {nativePath}};
     }
     const QString terminal = surroundings.FindProgram(QStringLiteral("x-terminal-emulator"));
-    const QString editor = surroundings.FindProgram(surroundings.Editor);
+    const QStringList editor = EditorCommand(surroundings);
     if (program == HelperProgram::TextEditor && !terminal.isEmpty() && !editor.isEmpty()) {
-        return {terminal, {QStringLiteral("-e"), editor, nativePath}};
+        return {terminal, QStringList{QStringLiteral("-e")} + editor + QStringList{nativePath}};
     }
     return {};
 #endif

@@ -15,7 +15,7 @@ struct HelperCommand {
 /// What the decision looks at: programs on the machine and its environment.
 struct HelperSurroundings {
     std::function<QString(const QString& name)> FindProgram; ///< the program's whole path, empty when it is missing
-    QString Editor;                                          ///< the EDITOR variable
+    QString Editor;                                          ///< the EDITOR variable: a program, maybe with arguments
     bool FileExists = true;
 };
 
