@@ -7,18 +7,23 @@ namespace {
 
 constexpr int MostCopies = 100; // names that earlier copies may have taken already
 
-// A name beside the file that no file has yet: NAME.damaged-20160307-093000, a second later if that one is taken.
-// Empty when none is known to be free.
-QString FreeCopyName(const QString& path) {
+// Finds a name beside the file that nothing has yet: NAME.damaged-20160307-093000, a second later if that one is taken.
+// Returns the error that kept it from being found.
+SystemError FindCopyName(const QString& path, QString& name) {
     const QDateTime now = TheDesktop().Now();
+    const SystemError folder = MakeError(ErrorNumber::PathFileAccess);
     for (int later = 0; later < MostCopies; ++later) {
         const QString time = now.addSecs(later).toString(QStringLiteral("yyyyMMdd-HHmmss"));
-        QString name = path + QStringLiteral(".damaged-") + time;
-        if (LookForFile(name) == FilePresence::Missing) {
-            return name;
+        name = path + QStringLiteral(".damaged-") + time;
+        const SystemError look = ReadWholeFile(name).Error;
+        if (look == MakeError(ErrorNumber::FileNotFound)) {
+            return {};
+        }
+        if (look && look != folder) {
+            return look;
         }
     }
-    return {};
+    return folder;
 }
 
 } // namespace
@@ -31,8 +36,9 @@ SystemError CopyDamagedFile(const QString& path) {
     if (original.Error || original.Bytes.isEmpty()) {
         return original.Error;
     }
-    const QString name = FreeCopyName(path);
-    return name.isEmpty() ? MakeError(ErrorNumber::PathFileAccess) : SaveWholeFile(name, original.Bytes);
+    QString name;
+    const SystemError error = FindCopyName(path, name);
+    return error ? error : SaveWholeFile(name, original.Bytes);
 }
 
 void ReportFailedSave(const QString& name, const SystemError& error) {
