@@ -15,13 +15,23 @@ struct Located {
     SystemError Error;
 };
 
+// A shared folder may answer once from an old list: what is said to be missing is asked for again. Whoever believed a
+// wrong answer could save over a file that was never read.
+template <typename Call>
+int AskedTwice(Call call) {
+    const int failure = call();
+    return failure == ENOENT ? call() : failure;
+}
+
 // Finds a regular file; anything else of that name is number 75.
 Located LocateFile(const QString& path) {
     const Volumes::NativeResult native = TheDesktop().TheVolumes().ToNative(path);
     Located found{native.Path, {}, native.Error};
     if (!found.Error) {
-        NativePath followed = native.Path;
-        found.Error = ErrorFromErrno(FollowLinks(TheDesktop().TheSystemCalls(), followed, found.Status));
+        found.Error = ErrorFromErrno(AskedTwice([&] {
+            NativePath followed = native.Path;
+            return FollowLinks(TheDesktop().TheSystemCalls(), followed, found.Status);
+        }));
     }
     if (!found.Error && !found.Status.IsRegularFile) {
         found.Error = MakeError(ErrorNumber::PathFileAccess);
@@ -37,7 +47,8 @@ FileContents ReadWholeFile(const QString& path) {
         return {{}, file.Error};
     }
     QByteArray bytes;
-    const SystemError error = ErrorFromErrno(ReadFile(TheDesktop().TheSystemCalls(), file.Path, bytes));
+    const SystemError error =
+        ErrorFromErrno(AskedTwice([&] { return ReadFile(TheDesktop().TheSystemCalls(), file.Path, bytes); }));
     return {error ? QByteArray() : bytes, error};
 }
 

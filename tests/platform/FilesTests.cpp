@@ -174,3 +174,16 @@ TEST(Files, TellsTheErrorsOfTheSystem) {
         EXPECT_TRUE(FileExists(Text("c:\\x.cfg"))) << row.Error;
     }
 }
+
+TEST(Files, AreNotTakenForMissingBecauseOfOneWrongAnswer) {
+    for (int call = 1; call <= 8; ++call) {
+        FaultyCalls calls;
+        TestFolder folder(calls);
+        folder.Write(Text("c:\\marks\\x.cfg"), "x");
+        calls.FailCall(call, ENOENT);
+        const FileContents read = ReadWholeFile(Text("c:\\marks\\x.cfg"));
+        EXPECT_TRUE(read.Error.Number == 0 ? read.Bytes == "x" : read.Error.Number != 53) << call;
+        calls.FailCall(calls.Count() + call, ENOENT);
+        EXPECT_NE(LookForFile(Text("c:\\marks\\x.cfg")), FilePresence::Missing) << call;
+    }
+}
