@@ -9,6 +9,11 @@ void FaultyCalls::FailCall(int number, int error, Repeat repeat) {
     callRepeat = repeat;
 }
 
+void FaultyCalls::ShortenCall(int number, Repeat repeat) {
+    shortCall = number;
+    shortRepeat = repeat;
+}
+
 void FaultyCalls::FailAll(Kind kind, int error) {
     kindFaults.push_back({kind, error, -1});
 }
@@ -74,52 +79,56 @@ int FaultyCalls::Opened(Kind kind, const std::function<int()>& open) {
 }
 
 int FaultyCalls::Status(const NativePath& path, FileStatus& status) {
-    return Do<int>(Kind::Status, [&] { return real.Status(path, status); });
+    return Do<int>(Kind::Status, [&] { return real->Status(path, status); });
 }
 
 int FaultyCalls::ReadLink(const NativePath& path, NativePath& target) {
-    return Do<int>(Kind::ReadLink, [&] { return real.ReadLink(path, target); });
+    return Do<int>(Kind::ReadLink, [&] { return real->ReadLink(path, target); });
 }
 
 int FaultyCalls::OpenForReading(const NativePath& path) {
-    return Opened(Kind::OpenForReading, [&] { return real.OpenForReading(path); });
+    return Opened(Kind::OpenForReading, [&] { return real->OpenForReading(path); });
 }
 
 int FaultyCalls::OpenForWriting(const NativePath& path) {
-    return Opened(Kind::OpenForWriting, [&] { return real.OpenForWriting(path); });
+    return Opened(Kind::OpenForWriting, [&] { return real->OpenForWriting(path); });
 }
 
 int FaultyCalls::CreateExclusive(const NativePath& path, unsigned mode) {
-    return Opened(Kind::CreateExclusive, [&] { return real.CreateExclusive(path, mode); });
+    return Opened(Kind::CreateExclusive, [&] { return real->CreateExclusive(path, mode); });
 }
 
 std::int64_t FaultyCalls::Read(int handle, char* buffer, std::int64_t size) {
     const std::int64_t most = MostBytesARead > 0 ? std::min<std::int64_t>(size, MostBytesARead) : size;
-    return Do<std::int64_t>(Kind::Read, [&] { return real.Read(handle, buffer, most); });
+    return Do<std::int64_t>(Kind::Read, [&] { return real->Read(handle, buffer, most); });
 }
 
 std::int64_t FaultyCalls::Write(int handle, const char* bytes, std::int64_t size) {
-    const std::int64_t most = MostBytesAWrite > 0 ? std::min<std::int64_t>(size, MostBytesAWrite) : size;
+    std::int64_t most = MostBytesAWrite > 0 ? std::min<std::int64_t>(size, MostBytesAWrite) : size;
+    const int number = Count() + 1;
+    if (shortCall > 0 && (shortRepeat == Repeat::Once ? number == shortCall : number >= shortCall)) {
+        most = (most + 1) / 2;
+    }
     const std::string spoilt(static_cast<std::size_t>(most), '~');
     return Do<std::int64_t>(Kind::Write, [&] {
-        return WritesTakeNothing ? 0 : real.Write(handle, SpoilsWrites ? spoilt.data() : bytes, most);
+        return WritesTakeNothing ? 0 : real->Write(handle, SpoilsWrites ? spoilt.data() : bytes, most);
     });
 }
 
 std::int64_t FaultyCalls::Seek(int handle, std::int64_t position) {
-    return Do<std::int64_t>(Kind::Seek, [&] { return real.Seek(handle, position); });
+    return Do<std::int64_t>(Kind::Seek, [&] { return real->Seek(handle, position); });
 }
 
 int FaultyCalls::Truncate(int handle, std::int64_t size) {
-    return Do<int>(Kind::Truncate, [&] { return real.Truncate(handle, size); });
+    return Do<int>(Kind::Truncate, [&] { return real->Truncate(handle, size); });
 }
 
 int FaultyCalls::SetMode(int handle, unsigned mode) {
-    return Do<int>(Kind::SetMode, [&] { return real.SetMode(handle, mode); });
+    return Do<int>(Kind::SetMode, [&] { return real->SetMode(handle, mode); });
 }
 
 int FaultyCalls::SetOwner(int handle, unsigned owner, unsigned group) {
-    return Do<int>(Kind::SetOwner, [&] { return real.SetOwner(handle, owner, group); });
+    return Do<int>(Kind::SetOwner, [&] { return real->SetOwner(handle, owner, group); });
 }
 
 int FaultyCalls::Sync(int) {
@@ -127,7 +136,7 @@ int FaultyCalls::Sync(int) {
 }
 
 int FaultyCalls::Close(int handle) {
-    const int closed = real.Close(handle);
+    const int closed = real->Close(handle);
     --OpenHandles;
     if (killedAt > 0 && Count() + 1 >= killedAt) {
         return closed; // the system closes a killed run's files; nothing may be thrown while they go out of scope
@@ -136,11 +145,11 @@ int FaultyCalls::Close(int handle) {
 }
 
 int FaultyCalls::Replace(const NativePath& source, const NativePath& target) {
-    return Do<int>(Kind::Replace, [&] { return real.Replace(source, target); });
+    return Do<int>(Kind::Replace, [&] { return real->Replace(source, target); });
 }
 
 int FaultyCalls::Remove(const NativePath& path) {
-    return Do<int>(Kind::Remove, [&] { return real.Remove(path); });
+    return Do<int>(Kind::Remove, [&] { return real->Remove(path); });
 }
 
 int FaultyCalls::SyncFolder(const NativePath&) {
@@ -148,13 +157,13 @@ int FaultyCalls::SyncFolder(const NativePath&) {
 }
 
 int FaultyCalls::ListNames(const NativePath& folder, std::vector<NativePath>& names) {
-    return Do<int>(Kind::ListNames, [&] { return real.ListNames(folder, names); });
+    return Do<int>(Kind::ListNames, [&] { return real->ListNames(folder, names); });
 }
 
 std::int64_t FaultyCalls::ProcessNumber() {
-    return Number > 0 ? Number : real.ProcessNumber();
+    return Number > 0 ? Number : real->ProcessNumber();
 }
 
 bool FaultyCalls::ProcessIsAlive(std::int64_t number) {
-    return AliveRuns ? AliveRuns(number) : real.ProcessIsAlive(number);
+    return AliveRuns ? AliveRuns(number) : real->ProcessIsAlive(number);
 }

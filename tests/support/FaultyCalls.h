@@ -35,6 +35,8 @@ public:
 
     /// Call number `number` fails with `error`: that one only, or it and all after it.
     void FailCall(int number, int error, Repeat repeat = Repeat::Once);
+    /// Call number `number`, when it is a write, takes half of the bytes: that one only, or each one from it on.
+    void ShortenCall(int number, Repeat repeat = Repeat::Once);
     /// Every call of the kind fails with `error`.
     void FailAll(Kind kind, int error);
     /// The first `times` calls of the kind fail with `error`.
@@ -93,10 +95,12 @@ private:
         int times; // below 0: always
     };
 
-    SystemCalls& real = RealSystemCalls();
+    SystemCalls* real = &RealSystemCalls();
     int failedCall = 0;
     int callError = 0;
     Repeat callRepeat = Repeat::Once;
+    int shortCall = 0;
+    Repeat shortRepeat = Repeat::Once;
     std::vector<KindFault> kindFaults;
     std::vector<KindFault> afterFaults;
     int killedAt = 0;

@@ -46,6 +46,9 @@ void ScriptedDesktop::AnswerFont(const QString& fontName) {
 
 MessageAnswer ScriptedDesktop::ShowMessage(const Message& message) {
     Messages.push_back(message);
+    if (answers.empty() && AnswerToOthers) {
+        return *AnswerToOthers;
+    }
     const QueuedAnswer next = TakeNext(answers, "message", message.Title + QStringLiteral(": ") + message.Text,
                                        QueuedAnswer{MessageAnswer::Cancel, {}});
     if (next.whileShown) {

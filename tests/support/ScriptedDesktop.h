@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// The desktop of the tests: records what was asked and gives the next answer. A message or dialog that no answer was
@@ -25,6 +26,9 @@ public:
     void AnswerFile(const QString& fileName);
     /// Queues the font that the next font dialog returns; an empty one is Cancel.
     void AnswerFont(const QString& fontName);
+
+    /// Answers every message box for which no answer is queued.
+    std::optional<MessageAnswer> AnswerToOthers;
 
     // What was asked, in order.
     std::vector<Message> Messages;
