@@ -69,6 +69,26 @@ TEST(PathTexts, DataNoticeNamesTheProduct) {
                        "delete the 'Don't_Delete_Me' file name.\n\nClick on Save when you're in the right 'place'.\n"));
 }
 
+TEST(FolderTexts, ReportFolderNotice) {
+    EXPECT_EQ(
+        HtmlFolderNotice(),
+        QStringLiteral("Use the 'Save in' drop down in the following dialog box to set the path to the folder where "
+                       "HTML Reports are to be saved.\n\nPlease do NOT delete the 'Don't_Delete_Me' file "
+                       "name.\n\nClick on Save when you're in the right 'place'."));
+}
+
+TEST(FolderTexts, PhotoNoticeHasItsBlankBeforeTheLineFeeds) {
+    const Message notice = PhotoNotice();
+    EXPECT_EQ(notice.Title, QStringLiteral("PATH TO STUDENT PHOTOGRAPHS"));
+    EXPECT_EQ(notice.Icon, MessageIcon::Information);
+    EXPECT_EQ(notice.Buttons, MessageButtons::Ok);
+    EXPECT_EQ(notice.Text,
+              QStringLiteral("Please use the 'Look in' list in the next dialog box to find the path to the photographs "
+                             "of your students. You're looking for files named using Student Numbers with 'BMP' or "
+                             "'JPG' at the end. \n\nTo complete the process, click on any one of these files to place "
+                             "its name in the 'File Name' box and then click on 'Open'."));
+}
+
 struct PhotoCase {
     const char* File;
     const char* Folder;

@@ -159,6 +159,31 @@ TEST_F(Paths, BrowsedFolderGoesIntoTheRecordAtOnceAndIsWarnedAboutOnce) {
     EXPECT_FALSE(Machine.Exists(QStringLiteral("c:\\marks\\gwdata\\Don't_Delete_Me")));
 }
 
+TEST_F(Paths, BrowsedFolderThatIsNotThereAsksAndReachesNoRecord) {
+    Open();
+    Screen.Answer(MessageAnswer::Ok);
+    Screen.AnswerFile(QStringLiteral("c:\\nowhere\\Don't_Delete_Me"));
+    Screen.Answer(MessageAnswer::Cancel);
+    Click("cmdDataPath");
+    EXPECT_EQ(Titles(), QStringLiteral("Locate Gradewell Data Folders|DEFAULT PATH ERROR"));
+    EXPECT_EQ(ProgramConfig.DefaultPath, QStringLiteral("c:\\marks\\2016"));
+    EXPECT_EQ(Drive("drvHDir"), QStringLiteral("c:"));
+}
+
+TEST_F(Paths, StoredFoldersThatAreNoPathsAsk) {
+    for (const char* stored : {"marks", "\\\\server\\share", "c:\\photos\\1.jpg", "1:\\x"}) {
+        Machine.Write(QStringLiteral("c:\\photos\\1.jpg"), "x");
+        Start(WithLines(Base(), {{75, '"' + QByteArray(stored) + '"'}}));
+        Screen.Messages.clear();
+        Screen.Answer(MessageAnswer::Cancel);
+        Open();
+        EXPECT_EQ(Titles(), QStringLiteral("DEFAULT PATH ERROR")) << stored;
+        EXPECT_TRUE(Screen.Messages[0].Text.contains(u'[' + QString::fromUtf8(stored) + u']')) << stored;
+        EXPECT_EQ(Drive("drvBkupPath"), QStringLiteral("c:")) << stored;
+        EXPECT_EQ(TextOf("lblBkupPath").left(3), QStringLiteral("c:\\")) << stored;
+    }
+}
+
 TEST_F(Paths, FolderOfTheListReachesTheRecordOnSaveOnly) {
     Open();
     OpenFolder("dirHDir", "c:\\other");

@@ -2,6 +2,7 @@
 
 #include "app/CFG_2015.h"
 #include "options/frmSetUp_SU.h"
+#include "tests/support/FaultyCalls.h"
 #include "tests/support/PrintText.h"
 #include "tests/support/TestFolder.h"
 #include "tests/support/WindowInput.h"
@@ -38,7 +39,8 @@ public:
     /// Titles of the messages so far, joined by bars.
     QString Titles() const;
 
-    TestFolder Machine;
+    FaultyCalls Calls; ///< the real ones until a test makes one fail
+    TestFolder Machine{Calls};
     ScriptedDesktop& Screen = Machine.Screen;
     std::unique_ptr<frmSetUp_SU> Window;
 };

@@ -133,6 +133,29 @@ INSTANTIATE_TEST_SUITE_P(
         Change{"TwoBrowsesCancelled", 0, Browsing("cmdDataPath", ""), {}}),
     [](const auto& row) { return std::string(row.param.Name); });
 
+TEST_F(SetupSave, EveryDateFormatAndLineWidthIsItsOwnOption) {
+    for (int code = 1; code <= 6; ++code) {
+        Start(WithLines(Base(), {{34, ' ' + QByteArray::number(7 - code) + ' '}}));
+        Open();
+        EXPECT_TRUE(C<QRadioButton>(QStringLiteral("optDFormat(%1)").arg(7 - code))->isChecked());
+        ShowPanel(1);
+        Click(QStringLiteral("optDFormat(%1)").arg(code).toUtf8().constData());
+        Click("cmdPrefSave");
+        EXPECT_EQ(Saved(), WithLines(Base(), {{34, ' ' + QByteArray::number(code) + ' '}}));
+        Machine.Remove(QStringLiteral("c:\\gradewell\\GW_v11_PRG.CFG"));
+    }
+    for (int option = 0; option <= 9; ++option) {
+        Start(WithLines(Base(), {{43, QByteArray::number(11 - option)}}));
+        Open();
+        EXPECT_TRUE(C<QRadioButton>(QStringLiteral("optThickLine(%1)").arg(9 - option))->isChecked());
+        ShowPanel(4);
+        Click(QStringLiteral("optThickLine(%1)").arg(option).toUtf8().constData());
+        Click("cmdPrefSave");
+        EXPECT_EQ(Saved(), WithLines(Base(), {{43, QByteArray::number(option + 2)}}));
+        Machine.Remove(QStringLiteral("c:\\gradewell\\GW_v11_PRG.CFG"));
+    }
+}
+
 TEST_F(SetupSave, EverythingChangedIsSavedAndReadBack) {
     Open();
     C<QWidget>(QStringLiteral("dirHDir"))->setProperty("path", QStringLiteral("c:\\other"));
