@@ -11,19 +11,18 @@ constexpr int MostCopies = 100; // names that earlier copies may have taken alre
 // Returns the error that kept it from being found.
 SystemError FindCopyName(const QString& path, QString& name) {
     const QDateTime now = TheDesktop().Now();
-    const SystemError folder = MakeError(ErrorNumber::PathFileAccess);
     for (int later = 0; later < MostCopies; ++later) {
         const QString time = now.addSecs(later).toString(QStringLiteral("yyyyMMdd-HHmmss"));
         name = path + QStringLiteral(".damaged-") + time;
-        const SystemError look = ReadWholeFile(name).Error;
+        SystemError look = ReadWholeFile(name).Error;
         if (look == MakeError(ErrorNumber::FileNotFound)) {
             return {};
         }
-        if (look && look != folder) {
+        if (look && look != MakeError(ErrorNumber::PathFileAccess)) { // a folder may have the name
             return look;
         }
     }
-    return folder;
+    return MakeError(ErrorNumber::PathFileAccess);
 }
 
 } // namespace
