@@ -2,8 +2,17 @@
 
 namespace {
 
+#ifdef Q_OS_WIN
+// The system's dialog matches without case, and takes "*.*" for every file.
+QString PatternOf(const QString& pattern) {
+    return pattern;
+}
+#else
 // "*.jpg" as "*.[jJ][pP][gG]": the stations' file names know no case.
-QString AnyCase(const QString& pattern) {
+QString PatternOf(const QString& pattern) {
+    if (pattern == QStringLiteral("*.*")) {
+        return QStringLiteral("*");
+    }
     QString result;
     for (const QChar character : pattern) {
         if (character.toLower() != character.toUpper()) {
@@ -14,12 +23,12 @@ QString AnyCase(const QString& pattern) {
     }
     return result;
 }
+#endif
 
 // Qt takes the last parentheses of an entry for the pattern, so the label goes without its own.
 QString QtFilter(const QString& label, const QString& pattern) {
     const QString name = label.left(label.indexOf(QLatin1Char('('))).trimmed();
-    const bool every = pattern == QStringLiteral("*.*");
-    return QStringLiteral("%1 (%2)").arg(name, every ? QStringLiteral("*") : AnyCase(pattern));
+    return QStringLiteral("%1 (%2)").arg(name, PatternOf(pattern));
 }
 
 } // namespace

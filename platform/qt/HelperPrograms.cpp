@@ -1,8 +1,8 @@
 #include "platform/qt/HelperPrograms.h"
 
-#ifndef Q_OS_WIN
 #include <QProcess>
 
+#ifndef Q_OS_WIN
 namespace {
 
 // EDITOR's words, its program found; empty when it is not there. As everywhere, EDITOR may hold arguments, double
@@ -26,17 +26,30 @@ HelperCommand CommandFor(HelperProgram program, const QString& nativePath,
                          [[maybe_unused]] const HelperSurroundings& surroundings) {
 #ifdef Q_OS_WIN
     const bool viewer = program == HelperProgram::FileViewer;
-    return {viewer ? QStringLiteral("explorer.exe") : QStringLiteral("notepad.exe"), {nativePath}};
+    return {viewer ? QStringLiteral("explorer.exe") : QStringLiteral("notepad.exe"),
+            {},
+            QLatin1Char('"') + nativePath + QLatin1Char('"')};
 #else
     const QString opener = surroundings.FindProgram(QStringLiteral("xdg-open"));
     if (!opener.isEmpty() && surroundings.FileExists) {
-        return {opener, {nativePath}};
+        return {opener, {nativePath}, {}};
     }
     const QString terminal = surroundings.FindProgram(QStringLiteral("x-terminal-emulator"));
     const QStringList editor = EditorCommand(surroundings);
     if (program == HelperProgram::TextEditor && !terminal.isEmpty() && !editor.isEmpty()) {
-        return {terminal, QStringList{QStringLiteral("-e")} + editor + QStringList{nativePath}};
+        return {terminal, QStringList{QStringLiteral("-e")} + editor + QStringList{nativePath}, {}};
     }
     return {};
 #endif
+}
+
+bool Start(const HelperCommand& command) {
+    QProcess process;
+    process.setProgram(command.Program);
+#ifdef Q_OS_WIN
+    process.setNativeArguments(command.Line);
+#else
+    process.setArguments(command.Arguments);
+#endif
+    return !command.Program.isEmpty() && process.startDetached();
 }

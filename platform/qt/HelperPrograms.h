@@ -10,6 +10,7 @@
 struct HelperCommand {
     QString Program; ///< empty when this machine has nothing that could do it
     QStringList Arguments;
+    QString Line; ///< on Windows instead of the arguments: what stands behind the program's name
 };
 
 /// What the decision looks at: programs on the machine and its environment.
@@ -19,7 +20,11 @@ struct HelperSurroundings {
     bool FileExists = true;
 };
 
-/// The command for a file by its native path, which is always one argument of its own. Where the system has no program
-/// of its own for it (not Windows): the desktop's opener; for text also $EDITOR in a terminal, the only way to a file
-/// that does not exist yet.
+/// The command for a file by its native path, which is always one argument of its own. On Windows that is in double
+/// quotes, which no name there can hold: the file explorer takes a bare comma or equals sign for the argument's end.
+/// Where the system has no program of its own for it (not Windows): the desktop's opener; for text also $EDITOR in a
+/// terminal, the only way to a file that does not exist yet.
 HelperCommand CommandFor(HelperProgram program, const QString& nativePath, const HelperSurroundings& surroundings);
+
+/// Starts the command and does not wait for its end; false when there is none or it cannot be started.
+bool Start(const HelperCommand& command);

@@ -15,7 +15,6 @@
 #include <QFontDialog>
 #include <QMessageBox>
 #include <QPrinterInfo>
-#include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
 
@@ -152,8 +151,7 @@ SystemError QtDesktop::StartProgram(HelperProgram program, const QString& path) 
     }
     const auto find = [](const QString& name) { return name.isEmpty() ? name : QStandardPaths::findExecutable(name); };
     const HelperCommand command = CommandFor(program, file, {find, qEnvironmentVariable("EDITOR"), exists});
-    const bool started = !command.Program.isEmpty() && QProcess::startDetached(command.Program, command.Arguments);
-    return started ? SystemError() : MakeError(ErrorNumber::FileNotFound);
+    return Start(command) ? SystemError() : MakeError(ErrorNumber::FileNotFound);
 }
 
 QSize QtDesktop::ScreenSize() {

@@ -93,6 +93,26 @@ TEST(DropDownLists, TheWheelActsOnlyWithTheFocus) {
     EXPECT_EQ(list.currentIndex(), 1);
 }
 
+#ifdef Q_OS_WIN
+TEST(DialogFilters, AsTheSystemsDialogTakesThem) {
+    EXPECT_EQ(QtFilters(QStringLiteral("All Files (*.*)|*.*")), QStringList({QStringLiteral("All Files (*.*)")}));
+    EXPECT_EQ(QtFilters(QStringLiteral("JPeg (*.jpg)|*.jpg|Bit Map (*.bmp)|*.bmp")),
+              QStringList({QStringLiteral("JPeg (*.jpg)"), QStringLiteral("Bit Map (*.bmp)")}));
+    EXPECT_EQ(QtFilters(QString()), QStringList());
+}
+
+TEST(HelperPrograms, ThePathIsOneQuotedArgument) {
+    for (const char* path : {"c:\\x.txt", "c:\\a b\\x.txt", "c:\\a,b=c\\it's.txt", "\\\\server\\apps,1\\x.txt"}) {
+        const QString native = QString::fromLatin1(path);
+        const HelperCommand viewer = CommandFor(HelperProgram::FileViewer, native, {});
+        EXPECT_EQ(viewer.Program, QStringLiteral("explorer.exe"));
+        EXPECT_EQ(viewer.Line, QStringLiteral("\"%1\"").arg(native));
+        const HelperCommand editor = CommandFor(HelperProgram::TextEditor, native, {});
+        EXPECT_EQ(editor.Program, QStringLiteral("notepad.exe"));
+        EXPECT_EQ(editor.Line, QStringLiteral("\"%1\"").arg(native));
+    }
+}
+#else
 TEST(DialogFilters, AsQtTakesThem) {
     EXPECT_EQ(QtFilters(QStringLiteral("All Files (*.*)|*.*")), QStringList({QStringLiteral("All Files (*)")}));
     EXPECT_EQ(QtFilters(QStringLiteral("Schemes (*.scm)|*.scm")),
@@ -101,6 +121,7 @@ TEST(DialogFilters, AsQtTakesThem) {
               QStringList({QStringLiteral("JPeg (*.[jJ][pP][gG])"), QStringLiteral("Bit Map (*.[bB][mM][pP])")}));
     EXPECT_EQ(QtFilters(QString()), QStringList());
 }
+#endif
 
 TEST(PrinterFonts, APrinterAndTheFontAreNeeded) {
     const QStringList families{QStringLiteral("DejaVu Sans"), QStringLiteral("ARIAL")};
