@@ -69,10 +69,17 @@ MessageAnswer AnswerOf(int button) {
     }
 }
 
+// The window that a box belongs over. One that has just been opened is not the active one before the system says so,
+// and a box over the window behind it would wake that one in the end.
+QWidget* Owner() {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
 // A message box reads rich text where a text looks like it; names of files may hold anything.
 class PlainMessageBox : public QMessageBox {
 public:
-    explicit PlainMessageBox(const Message& message) : QMessageBox(QApplication::activeWindow()) {
+    explicit PlainMessageBox(const Message& message) : QMessageBox(Owner()) {
         setWindowTitle(message.Title);
         setTextFormat(Qt::PlainText);
         setText(message.Text);
@@ -106,7 +113,7 @@ MessageAnswer QtDesktop::ShowMessage(const Message& message) {
 
 FileDialogAnswer QtDesktop::AskForFile(const FileDialog& dialog) {
     const bool saving = dialog.DialogKind == FileDialog::Kind::Save;
-    QFileDialog asked(QApplication::activeWindow(), dialog.Title);
+    QFileDialog asked(Owner(), dialog.Title);
     asked.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     asked.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     asked.setOption(QFileDialog::DontConfirmOverwrite, !dialog.OverwritePrompt);
@@ -127,14 +134,14 @@ FileDialogAnswer QtDesktop::AskForFile(const FileDialog& dialog) {
 
 FontDialogAnswer QtDesktop::AskForFont(const QString& fontName, int pointSize) {
 #ifdef _WIN32
-    return AskSystemForFont(fontName, pointSize);
+    return AskSystemForFont(Owner(), fontName, pointSize);
 #else
     QFont initial = QApplication::font();
     if (!fontName.isEmpty()) {
         initial.setFamily(fontName);
     }
     initial.setPointSize(pointSize);
-    QFontDialog asked(initial, QApplication::activeWindow());
+    QFontDialog asked(initial, Owner());
     if (asked.exec() != QDialog::Accepted) {
         return {QString(), MakeError(ErrorNumber::DialogCancelled)};
     }

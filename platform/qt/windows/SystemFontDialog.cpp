@@ -1,6 +1,5 @@
 #include "platform/qt/windows/SystemFontDialog.h"
 
-#include <QApplication>
 #include <QWidget>
 #include <algorithm>
 #include <windows.h>
@@ -45,7 +44,7 @@ int DotsAnInch() {
 
 } // namespace
 
-FontDialogAnswer AskSystemForFont(const QString& fontName, int pointSize) {
+FontDialogAnswer AskSystemForFont(const QWidget* owner, const QString& fontName, int pointSize) {
     const PrinterContext printer;
     LOGFONTW font = {};
     font.lfHeight = -MulDiv(pointSize, DotsAnInch(), PointsAnInch);
@@ -54,7 +53,6 @@ FontDialogAnswer AskSystemForFont(const QString& fontName, int pointSize) {
     std::copy_n(name.begin(), std::min<std::size_t>(name.size(), LF_FACESIZE - 1), font.lfFaceName);
     CHOOSEFONTW asked = {};
     asked.lStructSize = sizeof asked;
-    const QWidget* owner = QApplication::activeWindow();
     asked.hwndOwner = owner != nullptr ? reinterpret_cast<HWND>(owner->winId()) : nullptr;
     asked.hDC = printer.Context();
     asked.lpLogFont = &font;
