@@ -14,6 +14,8 @@ target_compile_options(gradewell_flags INTERFACE
 if(WIN32)
     # The program is one file. No macros min and max, and the names of Windows 10's calls.
     target_link_options(gradewell_flags INTERFACE -static)
+    target_compile_options(gradewell_flags INTERFACE
+        -Wno-error=restrict)  # GCC 12 reports false positives for std::string's operator+ with -O3
     target_compile_definitions(gradewell_flags INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
 endif()
 if(GRADEWELL_SANITIZE)
