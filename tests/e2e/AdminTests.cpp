@@ -11,12 +11,6 @@ protected:
     const QString Title = Menu + QStringLiteral(" - TRANSFER to ADMIN EDITION");
 
     QByteArray Unlocked() const { return Golden(Installed.Edition.Component + QStringLiteral("-unlocked.cfg")); }
-
-    /// A folder below the program folder as the program writes it.
-    QString Shown(const char* below) const {
-        QString path = QStringLiteral("c:") + Installed.Folder() + QLatin1Char('/') + QString::fromLatin1(below);
-        return path.replace(QLatin1Char('/'), QLatin1Char('\\')).toLower();
-    }
 };
 
 INSTANTIATE_TEST_SUITE_P(Editions, AdminProgram, testing::Values("english", "french"), EditionOf);
@@ -44,19 +38,15 @@ TEST_P(AdminProgram, EditsTheRulesByMouseAndKeysAndSavesThemToTheByte) {
     const QString locate = QStringLiteral("Locate Gradewell Data Folders");
     Type(Title, "alt+b");
     Program->Press(locate, QStringLiteral("Return"));
-    Program->Await(QStringLiteral("the file dialog"), [&](const SeenScreen& screen) {
-        const SeenWindow* dialog = screen.Window(locate);
-        return dialog != nullptr && dialog->Active && dialog->Has(QStringLiteral("fileNameEdit"));
-    });
-    Program->Enter(locate, QStringLiteral("fileNameEdit"), Installed.Folder() + QStringLiteral("/admin/x"));
-    PressKey(QStringLiteral("Return"));
-    Program->AwaitText(Title, QStringLiteral("lblAdminPath"), Shown("admin"));
+    Program->ChooseFile(locate, Installed.Native(QStringLiteral("admin/x")));
+    const QString chosen = Installed.Shown(QStringLiteral("admin"));
+    Program->AwaitText(Title, QStringLiteral("lblAdminPath"), chosen);
 
     EXPECT_EQ(Installed.Read(Newer), Golden(QStringLiteral("start.cfg"))) << "nothing is stored before Save";
     Type(Title, "alt+s");
     Program->AwaitWindow(Menu);
     const QByteArray expected = Unlocked()
-                                    .replace("\"c:\\admin\"", '"' + Shown("admin").toLatin1() + '"')
+                                    .replace("\"c:\\admin\"", '"' + chosen.toLatin1() + '"')
                                     .replace("2,5,9,3,1,2,1,2", "2,20,9,3,1,2,1,2")
                                     .replace("\"a\",\"g0\"", "\"EN\",\"G0\"");
     EXPECT_EQ(Installed.Read(Newer).toStdString(), expected.toStdString());

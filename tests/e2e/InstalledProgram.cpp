@@ -9,6 +9,8 @@
 
 namespace {
 
+const QString WineDrive = QStringLiteral("z:"); // where Wine shows the whole machine
+
 QByteArray ReadFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -30,6 +32,10 @@ QString BuildFolder() {
 
 bool UnderWine() {
     return qEnvironmentVariableIsSet("WINDOWS_BUILD");
+}
+
+QString NativeName(const QString& path) {
+    return UnderWine() ? WineDrive + QString(path).replace(QLatin1Char('/'), QLatin1Char('\\')) : path;
 }
 
 EditionNames EnglishNames() {
@@ -68,6 +74,15 @@ InstalledProgram::InstalledProgram(const EditionNames& edition, ProgramKind kind
             throw std::runtime_error("Cannot copy " + probed.toStdString());
         }
     }
+}
+
+QString InstalledProgram::Native(const QString& below) const {
+    return NativeName(Folder() + QLatin1Char('/') + below);
+}
+
+QString InstalledProgram::Shown(const QString& below) const {
+    const QString path = UnderWine() ? Native(below) : QStringLiteral("c:") + Native(below);
+    return QString(path).replace(QLatin1Char('/'), QLatin1Char('\\')).toLower();
 }
 
 void InstalledProgram::Write(const QString& name, const QByteArray& bytes) {

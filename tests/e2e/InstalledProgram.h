@@ -34,6 +34,9 @@ public:
     const EditionNames Edition;
 
     QString Folder() const { return directory.path(); }
+    /// A file or folder below it as the program names it, and as the program's system does.
+    QString Shown(const QString& below) const;
+    QString Native(const QString& below) const;
     /// Files of the folder by their name below it.
     void Write(const QString& name, const QByteArray& bytes);
     void MakeFolder(const QString& name);
@@ -46,6 +49,9 @@ public:
 private:
     QTemporaryDir directory;
 };
+
+/// A whole path of this machine as the program's system names it.
+QString NativeName(const QString& path);
 
 /// A file of tests/data/e2e; "@YEAR@" in it stands for the current year.
 QByteArray Golden(const QString& name);

@@ -40,3 +40,11 @@ void ExitByKeys(RunningProgram& program, const InstalledProgram& installed) {
     program.Press(installed.Edition.MenuTitle, installed.Edition.ExitKeys);
     EXPECT_EQ(program.AwaitEnd(), 0);
 }
+
+QByteArray WithFolders(QByteArray bytes) {
+    return bytes
+        .replace("c:\\donn\xE9"
+                 "es\\marks, 2016",
+                 "c:\\tmp")
+        .replace("c:\\backup", "c:\\var");
+}

@@ -20,3 +20,6 @@ void AwaitBothFiles(RunningProgram& program, const InstalledProgram& installed, 
 
 /// Leaves by the access key of Exit and expects a good end.
 void ExitByKeys(RunningProgram& program, const InstalledProgram& installed);
+
+/// The bytes with folders that every machine has, or General Options would begin with a message about them.
+QByteArray WithFolders(QByteArray bytes);

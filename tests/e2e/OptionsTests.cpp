@@ -7,15 +7,6 @@ namespace {
 const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
 const QString MailServer = QStringLiteral("txtSMTP");
 
-/// The bytes with folders that every machine has, or General Options would begin with a message about them.
-QByteArray WithFolders(QByteArray bytes) {
-    return bytes
-        .replace("c:\\donn\xE9"
-                 "es\\marks, 2016",
-                 "c:\\tmp")
-        .replace("c:\\backup", "c:\\var");
-}
-
 /// What Save of General Options makes of the unlocked file once the date format is 3 and the mail server typed.
 QByteArray Saved(const InstalledProgram& installed, const QByteArray& mailServer) {
     return WithFolders(EditionGolden(installed, "unlocked"))

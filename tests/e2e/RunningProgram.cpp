@@ -12,6 +12,7 @@ namespace {
 
 constexpr int Patience = 30'000; // milliseconds; a loaded machine is slow, a broken program never gets there
 constexpr unsigned long BetweenLooks = 15;
+const QString FileNameBox = QStringLiteral("fileNameEdit");
 
 [[noreturn]] void Fail(const QString& what) {
     throw std::runtime_error(what.toStdString());
@@ -42,6 +43,11 @@ QProcessEnvironment CleanEnvironment(const QString& home) {
     environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("probe"));
     environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(E2E_PLUGINS));
     return environment;
+}
+
+void AwaitFileDialog(RunningProgram& program, const QString& title) {
+    program.Await(QStringLiteral("the file dialog \"%1\"").arg(title),
+                  [&](const SeenScreen&) { return program.FileDialogIsOpen(title); });
 }
 
 } // namespace
@@ -114,8 +120,14 @@ SeenWindow RunningProgram::AwaitWindow(const QString& title) {
     };
     const SeenScreen seen = Await(QStringLiteral("the window \"%1\"").arg(title), active);
     if (UnderWine()) { // whose windows are active before the display server gives them the keys
-        Await(QStringLiteral("the keys to reach \"%1\"").arg(title),
-              [&title](const SeenScreen&) { return ActiveTitle() == title; });
+        Await(QStringLiteral("the keys to reach \"%1\"").arg(title), [&title](const SeenScreen&) {
+            const QString keys = ActiveTitle();
+            if (keys.isEmpty()) { // behind one of its own file dialogs Wine leaves the display without a window for
+                                  // them
+                GiveKeysTo(title);
+            }
+            return keys == title;
+        });
     }
     return *seen.Window(title);
 }
@@ -165,6 +177,29 @@ void RunningProgram::Enter(const QString& title, const QString& textBox, const Q
     PressKey(QStringLiteral("ctrl+a"));
     TypeText(text);
     AwaitText(title, textBox, text);
+}
+
+bool RunningProgram::FileDialogIsOpen(const QString& title) {
+    const SeenScreen screen = Look();
+    const SeenWindow* window = screen.Window(title);
+    const bool active = window != nullptr && window->Active;
+    return UnderWine() ? !active && ActiveTitle() == title : active && window->Has(FileNameBox);
+}
+
+void RunningProgram::ChooseFile(const QString& title, const QString& path) {
+    AwaitFileDialog(*this, title);
+    if (UnderWine()) { // it opens with the keyboard in the box for the name
+        PressKey(QStringLiteral("ctrl+a"));
+        TypeText(path);
+    } else {
+        Enter(title, FileNameBox, Quoted(path));
+    }
+    PressKey(QStringLiteral("Return"));
+}
+
+void RunningProgram::CancelFileDialog(const QString& title) {
+    AwaitFileDialog(*this, title);
+    PressKey(QStringLiteral("Escape"));
 }
 
 void RunningProgram::TakePicture(const QString& title, const QString& file) {

@@ -34,6 +34,13 @@ public:
     void Press(const QString& title, const QString& chord);
     /// Clicks a text box, replaces its text and waits until it shows the new one.
     void Enter(const QString& title, const QString& textBox, const QString& text);
+    /// Whether the file dialog of that title has the keyboard, the toolkit's or the system's own (which the toolkit
+    /// does not take for an active window).
+    bool FileDialogIsOpen(const QString& title);
+    /// Answers the file dialog of that title, the toolkit's or the system's own, with a file by its native path.
+    void ChooseFile(const QString& title, const QString& path);
+    /// Leaves the file dialog of that title by Escape.
+    void CancelFileDialog(const QString& title);
     /// Saves a picture of the window with its frame.
     void TakePicture(const QString& title, const QString& file);
 

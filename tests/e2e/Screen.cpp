@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QThread>
 #include <stdexcept>
@@ -56,6 +57,10 @@ void DragFromTo(const QPoint& from, const QPoint& to) {
         SendEvents(Move(from + (to - from) * step / Moves));
     }
     SendEvents({QStringLiteral("mouseup"), QStringLiteral("1")});
+    // A drag that began after the button was up already ends with the next move (as under Wine on a busy machine).
+    for (int step = 1; step <= Moves; ++step) {
+        SendEvents(Move(to + QPoint(step % 2, 0)));
+    }
 }
 
 void PressKey(const QString& chord) {
@@ -68,6 +73,14 @@ void TypeText(const QString& text) {
 
 QString ActiveTitle() {
     return AskActive({QStringLiteral("getwindowname")});
+}
+
+void GiveKeysTo(const QString& title) {
+    static const QRegularExpression special(QStringLiteral("([.^$*+?()\\[\\]{}|\\\\])"));
+    const QString whole =
+        QLatin1Char('^') + QString(title).replace(special, QStringLiteral("\\\\1")) + QLatin1Char('$');
+    QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                                  QStringLiteral("--name"), whole, QStringLiteral("windowactivate")});
 }
 
 QPoint ActiveOrigin() {

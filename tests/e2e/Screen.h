@@ -19,6 +19,8 @@ void TypeText(const QString& text);
 
 /// The title of the window that the display server gives the keys to; empty when there is none.
 QString ActiveTitle();
+/// Asks the window manager to make the window of that title the active one.
+void GiveKeysTo(const QString& title);
 /// Where the inside of that window begins.
 QPoint ActiveOrigin();
 

@@ -31,8 +31,7 @@ void TourSteps::VisitImport() {
     const QString title = edition.MenuTitle + QStringLiteral(" - IMPORT FILE SETUP");
     program.Press(edition.MenuTitle, QStringLiteral("alt+i"));
     PassFileOfSettings(title);
-    program.Enter(OpenDialog, QStringLiteral("fileNameEdit"), Quoted(QDir(folder).absoluteFilePath(StudentFile)));
-    program.Press(OpenDialog, QStringLiteral("Return"));
+    program.ChooseFile(OpenDialog, NativeName(QDir(folder).absoluteFilePath(StudentFile)));
     program.AwaitControl(
         title, QStringLiteral("lblRecordCount"), QStringLiteral("to show the first record"),
         [](const auto& seen) { return seen.Visible && seen.Text.startsWith(QLatin1String("Record 1 of")); });
@@ -50,14 +49,15 @@ void TourSteps::PassFileOfSettings(const QString& title) {
     const SeenScreen seen =
         program.Await(QStringLiteral("the import window to be ready"), [&](const SeenScreen& screen) {
             const SeenWindow* window = ActiveOf(screen);
-            return window != nullptr &&
-                   (window->Title.startsWith(ImportError) || window->Title == OpenDialog ||
-                    (window->Title == title && window->Control(QStringLiteral("lblRecordCount")).Visible));
+            return program.FileDialogIsOpen(OpenDialog) ||
+                   (window != nullptr &&
+                    (window->Title.startsWith(ImportError) ||
+                     (window->Title == title && window->Control(QStringLiteral("lblRecordCount")).Visible)));
         });
-    const QString active = ActiveOf(seen)->Title;
-    if (active == OpenDialog) {
+    if (program.FileDialogIsOpen(OpenDialog)) {
         return;
     }
+    const QString active = ActiveOf(seen)->Title;
     if (active != title) {
         TakePicture(active, QStringLiteral("import-error"));
         program.Press(active, QStringLiteral("Return"));
