@@ -45,6 +45,17 @@ TEST_F(Html, EmptiedSeparatorStaysInItsBoxAndComesBackWithASchool) {
     EXPECT_EQ(Example(), QStringLiteral("S1-StudentID_CourseCode.htm"));
 }
 
+TEST_F(Html, SecondSeparatorComesBackWithASchool) {
+    StartOn("\"\",\"-\",\"_\",0,0");
+    OpenPanel(5);
+    ChooseOrder(5);
+    EXPECT_EQ(Stored(), QStringLiteral("-|"));
+    EXPECT_EQ(Box("txtHTML_File_Sep2"), QStringLiteral("_"));
+    Enter(QStringLiteral("txtHTML_School"), QStringLiteral("S1"));
+    EXPECT_EQ(Stored(), QStringLiteral("-|_"));
+    EXPECT_EQ(Example(), QStringLiteral("CourseCode-StudentID_S1.htm"));
+}
+
 TEST_F(Html, OpeningOnABlankSchoolEmptiesTheStoredSeparatorBeforeTheBoxesAreFilled) {
     StartOn("\"\",\"-\",\"_\",3,0");
     Open();

@@ -209,6 +209,17 @@ TEST_F(SetupSave, DateFormatsOutsideOneToSixBecomeOne) {
     }
 }
 
+TEST_F(SetupSave, StoredPrinterDialogIsShown) {
+    for (const char* stored : {" 0 ", " 1 "}) {
+        Start(WithLines(Base(), {{37, stored}}));
+        Open();
+        EXPECT_EQ(C<QCheckBox>(QStringLiteral("chkHCDialog"))->isChecked(), stored[1] == '1');
+        Click("cmdPrefSave");
+        EXPECT_EQ(Saved(), WithLines(Base(), {{37, stored}}));
+        Machine.Remove(QStringLiteral("c:\\gradewell\\GW_v11_PRG.CFG"));
+    }
+}
+
 TEST_F(SetupSave, ThickLinesOutsideTheOptionsAreKept) {
     Start(WithLines(Base(), {{43, "12"}}));
     Open();
