@@ -27,10 +27,14 @@ endif()
 if(GRADEWELL_FUZZ)
     target_compile_options(gradewell_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
-if(GRADEWELL_COVERAGE)
-    target_compile_options(gradewell_flags INTERFACE --coverage)
-    target_link_options(gradewell_flags INTERFACE --coverage)
-endif()
+
+# Line coverage is counted in the product's own sources only.
+function(gradewell_counted name)
+    if(GRADEWELL_COVERAGE)
+        target_compile_options(${name} PRIVATE --coverage)
+        target_link_options(${name} PUBLIC --coverage)
+    endif()
+endfunction()
 
 # One precompiled header a layer: parsing Qt's headers is most of a compilation's time.
 file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/precompiled/Empty.cpp" CONTENT "") # keeps its time
@@ -52,6 +56,7 @@ function(gradewell_core name)
     add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC Qt6::Core ${arg_LINK} PRIVATE gradewell_flags)
     target_precompile_headers(${name} REUSE_FROM precompiled_core)
+    gradewell_counted(${name})
 endfunction()
 
 # gradewell_windows(NAME SOURCES ... LINK ...): windows and controls.
@@ -60,4 +65,5 @@ function(gradewell_windows name)
     add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC Qt6::Widgets Qt6::PrintSupport ${arg_LINK} PRIVATE gradewell_flags)
     target_precompile_headers(${name} REUSE_FROM precompiled_widgets)
+    gradewell_counted(${name})
 endfunction()

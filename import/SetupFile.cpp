@@ -34,7 +34,7 @@ template <std::size_t count>
 std::int16_t* NumberOf(const QString& key, const std::array<const char*, count>& keys,
                        std::array<std::int16_t, count>& values) {
     for (std::size_t i = 0; i < count; ++i) {
-        if (key == UpperCase(QString::fromLatin1(keys[i]))) {
+        if (key.compare(QLatin1String(keys[i]), Qt::CaseInsensitive) == 0) {
             return &values[i];
         }
     }
