@@ -118,6 +118,7 @@ TEST(TemporaryName, StandsBesideItsTargetAndTellsItsRun) {
     const NativePath target("/srv/marks/GW_v12_PRG.CFG");
     EXPECT_EQ(TemporaryName(target, 12), NativePath("/srv/marks/.GW_v12_PRG.CFG.12.tmp"));
     EXPECT_EQ(ProcessOfTemporaryName(target, ".GW_v12_PRG.CFG.12.tmp"), 12);
+    EXPECT_EQ(ProcessOfTemporaryName(target, ".GW_v12_PRG.CFG.0.tmp"), 0);
     EXPECT_EQ(ProcessOfTemporaryName(target, ".GW_v12_PRG.CFG..tmp"), std::nullopt);
     EXPECT_EQ(ProcessOfTemporaryName(target, ".GW_v12_PRG.CFG.99999999999999999999.tmp"), std::nullopt);
     EXPECT_EQ(ProcessOfTemporaryName(target, "GW_v12_PRG.CFG"), std::nullopt);

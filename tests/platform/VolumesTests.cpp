@@ -38,6 +38,7 @@ TEST(Volumes, MakesPathsWhole) {
         {"x:a", "x:\\a"},
         {"q:", "q:\\"},
         {"plain", "plain"},
+        {"p\\", "p"},
         {"\\", "\\"},
     };
     for (const auto& row : cases) {
