@@ -27,8 +27,8 @@ std::string ReferenceTrimmed(const std::string& text);
 /// Windows-1252 capitals, byte for byte.
 std::string ReferenceUpper(std::string text);
 
-/// The number that a text begins with after its leading blanks; 0 when it begins with none. Each character of `exponents`
-/// begins an exponent.
+/// The number that a text begins with after its leading blanks; 0 when it begins with none. Each character of
+/// `exponents` begins an exponent.
 double ReferenceLeadingNumber(const std::string& text, const std::string& exponents = "eE");
 
 /// Takes the items one after another; after the first error nothing more is taken.
