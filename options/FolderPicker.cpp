@@ -5,6 +5,7 @@
 #include "platform/CodePage.h"
 #include "platform/Desktop.h"
 #include "platform/ProgramPath.h"
+#include "platform/Volumes.h"
 #include "platform/widgets/DriveList.h"
 #include "platform/widgets/FolderList.h"
 #include "platform/widgets/PathLabel.h"
@@ -40,7 +41,8 @@ FolderPicker::FolderPicker(const FolderPickerNames& names, FolderPickerRules rul
     ArrangeControls();
     connect(Drive, &DriveList::Changed, this, &FolderPicker::DriveChanged);
     connect(Folder, &FolderList::Changed, this, &FolderPicker::FolderChanged);
-    connect(Folder, &FolderList::Refused, this, [this](const QString& folder) { AskAgain(folder); });
+    connect(Folder, &FolderList::ChosenAgain, this, &FolderPicker::FolderChosenAgain);
+    connect(Folder, &FolderList::Refused, this, &FolderPicker::FolderRefused);
     connect(BrowseButton, &QPushButton::clicked, this, &FolderPicker::Browse);
     connect(ClearButton, &QPushButton::clicked, this, &FolderPicker::Clear);
 }
@@ -97,14 +99,18 @@ bool FolderPicker::Load(const QString& folder) {
         return true;
     }
     ShowDriveOf(stored);
-    if (rules.DropUnreadable && Folder->SetPath(stored)) {
+    if (!rules.DropUnreadable) {
+        if (Open(stored)) {
+            Check();
+        }
+        return true;
+    }
+    if (Folder->SetPath(stored)) {
         ShowDriveOf(QString());
         Path->setText(QString());
         return false;
     }
-    if (Open(stored)) {
-        Check();
-    }
+    Check();
     return true;
 }
 
@@ -131,14 +137,21 @@ void FolderPicker::WarnOnce() {
 
 // Opens a folder in the list; when it cannot be read the user is asked. True when the list shows that folder.
 bool FolderPicker::Open(const QString& folder) {
-    return !Folder->SetPath(folder) || AskAgain(folder);
+    const SystemError error = Folder->SetPath(folder);
+    return !error || FolderRefused(folder, error);
+}
+
+// A folder that cannot be read: the question where there is one, else a message. True when the list shows it after all.
+bool FolderPicker::FolderRefused(const QString& folder, const SystemError& error) {
+    if (!rules.PathErrorTitle.isEmpty()) {
+        return AskAgain(folder);
+    }
+    ShowNotice(MessageIcon::Critical, rules.DialogTitle, RefusedFolderText(folder, error));
+    return false;
 }
 
 // The question about a folder that cannot be read, until it can be or the user gives up.
 bool FolderPicker::AskAgain(const QString& folder) {
-    if (rules.PathErrorTitle.isEmpty()) {
-        return false;
-    }
     const Message question{rules.PathErrorTitle, UnreadableFolderQuestion(rules.PathErrorOpening, folder),
                            MessageButtons::RetryCancel, MessageIcon::Critical};
     while (TheDesktop().ShowMessage(question) == MessageAnswer::Retry) {
@@ -195,6 +208,13 @@ void FolderPicker::FolderChanged() {
     }
 }
 
+// After Clear the list still shows the folder; choosing it there takes it back.
+void FolderPicker::FolderChosenAgain() {
+    if (Chosen().isEmpty()) {
+        FolderChanged();
+    }
+}
+
 void FolderPicker::Browse() {
     ShowNotice(MessageIcon::Information, rules.NoticeTitle, rules.NoticeText);
     FileDialog dialog;
@@ -221,10 +241,10 @@ void FolderPicker::Browse() {
 
 void FolderPicker::Clear() {
     Path->setText(QString());
+    warnedFor.clear();
     if (rules.ClearEmptiesLists) {
         const QScopedValueRollback<bool> clearing(settingLists, true);
         Folder->SetPath(QStringLiteral(" "));
         Drive->SetDrive(QString());
-        warnedFor.clear();
     }
 }

@@ -18,7 +18,8 @@ struct FolderPickerRules {
     QString DialogTitle; ///< the Save dialog that lets the user move to the folder
     bool PathMustExist = false;
     QString FolderRuleTitle;        ///< title of the warning about 'GW' folders; empty: they pass without a word
-    QString PathErrorTitle;         ///< title of the Retry / Cancel question about a folder that cannot be read
+    QString PathErrorTitle;         ///< title of the Retry / Cancel question about a folder that cannot be read; when
+                                    ///< it is empty such a folder is refused with a message
     QString PathErrorOpening;       ///< its text before the path: "The DEFAULT PATH ["
     bool DropUnreadable = false;    ///< a folder that cannot be read when Load is called is dropped without a word
     bool DriveErrorLoud = false;    ///< "DISK ERROR" with the exclamation icon and the drive in capitals
@@ -86,6 +87,8 @@ private:
     void ArrangeControls();
     bool Open(const QString& folder);
     bool AskAgain(const QString& folder);
+    bool FolderRefused(const QString& folder, const SystemError& error);
+    void FolderChosenAgain();
     void FallBack();
     void ShowDriveOf(const QString& folder);
     void DriveChanged();

@@ -56,6 +56,7 @@ void frmGWT_SU::Speak(CaptionLanguage spoken) {
     reportPath->NameControls(QString());
     lblGWTHelp->setText(TransferHelpText(spoken, configurationFile));
     FillBoards();
+    PlaceSetup();
 }
 
 // The choice stays; what the choice brings about is not repeated.

@@ -38,6 +38,10 @@ public:
     /// Shows the folder list's path in small letters; asks to retry when the folder cannot be read.
     void CheckReportPath();
 
+protected:
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
 private:
     TransferSettings settings;
     SystemAndBoard shown;
@@ -48,6 +52,7 @@ private:
     FolderPicker* reportPath = nullptr;
     QGroupBox* pnlSetup = nullptr;
     DropDownList* cboSIS = nullptr;
+    QGroupBox* fraSetupSIS = nullptr;
     QGroupBox* fraSetupBoard = nullptr;
     DropDownList* cboBoard = nullptr;
     QGroupBox* fraWH_WorkHabits = nullptr;
@@ -64,6 +69,7 @@ private:
     void MakeSystemFrame();
     void MakeBoardFrames();
     void MakeLock();
+    void PlaceSetup();
     QWidget* MakeButtons();
     void ArrangeTabOrder();
 

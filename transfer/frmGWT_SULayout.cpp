@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 // How the controls of the window are made and where they stand.
 
@@ -18,15 +19,17 @@ namespace {
 constexpr FolderPickerNames PickerNames = {"drvHDir",    "dirHDir",  "lblReportPath", "cmdGWT_Browse",
                                            "cmdClrPath", "lblDrive", "lblFolder",     "lblCurrent"};
 
-// Places in the setup panel, in logical pixels.
+// Places in the setup panel, in logical pixels; where a larger font needs more, what lies below moves down.
 constexpr QRect SystemFrame(16, 30, 569, 84);
 constexpr QRect BoardFrame(16, 120, 569, 65); // both frames, only one of which is shown
 constexpr QPoint LockPlace(24, 200);          // both pictures, only one of which is shown
 constexpr int LockSize = 32;
 constexpr int LockTextLeft = 76;
+constexpr int LockLineHeight = 20;
 constexpr int HelpLeft = 601;
-constexpr int HelpTop = 30;
+constexpr int HelpTop = 8;
 constexpr int SetupHeight = 256;
+constexpr int SetupBottom = 16; // below the lock
 
 FolderPickerRules PickerRules() {
     constexpr CaptionLanguage always = CaptionLanguage::English; // the window's selector never changes
@@ -89,20 +92,19 @@ QWidget* frmGWT_SU::MakePathPanel() {
 // The frames and the lock have fixed places; what the lock does is told to the right of them.
 void frmGWT_SU::MakeSetupPanel() {
     pnlSetup = Named(new QGroupBox(this), "pnlSetup");
-    pnlSetup->setFixedHeight(SetupHeight);
     MakeSystemFrame();
     MakeBoardFrames();
     MakeLock();
     lblGWTHelp = MakeWrappedLabel("lblGWTHelp", pnlSetup);
     lblGWTHelp->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     auto* row = new QHBoxLayout(pnlSetup);
-    row->setContentsMargins(HelpLeft, 8, Spacing::Margin, Spacing::Margin);
+    row->setContentsMargins(HelpLeft, HelpTop, Spacing::Margin, Spacing::Margin);
     row->addWidget(lblGWTHelp);
 }
 
 void frmGWT_SU::MakeSystemFrame() {
     auto* frame = Named(new QGroupBox(pnlSetup), "fraSetupSIS");
-    frame->setGeometry(SystemFrame);
+    fraSetupSIS = frame;
     QVBoxLayout* column = MakeColumn(frame, Spacing::Gap);
     auto* caption = Named(new QLabel(frame), "lblSIS");
     caption->setTextFormat(Qt::PlainText);
@@ -114,11 +116,9 @@ void frmGWT_SU::MakeSystemFrame() {
 
 void frmGWT_SU::MakeBoardFrames() {
     fraSetupBoard = Named(new QGroupBox(pnlSetup), "fraSetupBoard");
-    fraSetupBoard->setGeometry(BoardFrame);
     cboBoard = Named(new DropDownList(fraSetupBoard), "cboBoard");
     MakeColumn(fraSetupBoard, Spacing::Gap)->addWidget(cboBoard);
     fraWH_WorkHabits = Named(new QGroupBox(pnlSetup), "fraWH_WorkHabits");
-    fraWH_WorkHabits->setGeometry(BoardFrame);
     auto* edit = Named(new QPushButton(fraWH_WorkHabits), "cmdWH_WorkHabits");
     edit->setAutoDefault(false);
     MakeColumn(fraWH_WorkHabits, Spacing::Gap)->addWidget(edit, 0, Qt::AlignLeft);
@@ -134,7 +134,6 @@ void frmGWT_SU::MakeLock() {
                         "imgUnlocked");
     for (PictureButton* picture : {imgLocked, imgUnlocked}) {
         picture->adjustSize();
-        picture->move(LockPlace);
         picture->hide();
     }
     lblLocked = Named(new ClickableLabel(pnlSetup), "lblLocked");
@@ -142,11 +141,48 @@ void frmGWT_SU::MakeLock() {
     QFont bold = lblLocked->font();
     bold.setBold(true);
     lblLocked->setFont(bold);
-    lblClickLock = Named(new QLabel(pnlSetup), "lblClickLock");
-    lblClickLock->setTextFormat(Qt::PlainText);
-    const int width = BoardFrame.right() - LockTextLeft;
-    lblLocked->setGeometry(LockTextLeft, LockPlace.y(), width / 4, 20);
-    lblClickLock->setGeometry(LockTextLeft, LockPlace.y() + 20, width, 20);
+    lblClickLock = MakeWrappedLabel("lblClickLock", pnlSetup);
+}
+
+// Puts the frames and the lock where they belong and makes the panel high enough for them and for the help.
+void frmGWT_SU::PlaceSetup() {
+    const QRect room = pnlSetup->contentsRect();
+    const int systemTop = std::max(SystemFrame.top(), room.top() + Spacing::Gap / 2);
+    const int systemHeight = std::max(SystemFrame.height(), fraSetupSIS->minimumSizeHint().height());
+    fraSetupSIS->setGeometry(SystemFrame.left(), systemTop, SystemFrame.width(), systemHeight);
+
+    constexpr int frameGap = BoardFrame.top() - SystemFrame.bottom() - 1;
+    const int boardTop = systemTop + systemHeight + frameGap;
+    const int boardHeight = std::max(
+        {BoardFrame.height(), fraSetupBoard->minimumSizeHint().height(), fraWH_WorkHabits->minimumSizeHint().height()});
+    for (QGroupBox* frame : {fraSetupBoard, fraWH_WorkHabits}) {
+        frame->setGeometry(BoardFrame.left(), boardTop, BoardFrame.width(), boardHeight);
+    }
+
+    const int lockTop = boardTop + boardHeight + LockPlace.y() - BoardFrame.bottom() - 1;
+    imgLocked->move(LockPlace.x(), lockTop);
+    imgUnlocked->move(LockPlace.x(), lockTop);
+    constexpr int width = BoardFrame.right() - LockTextLeft;
+    const int stateHeight = std::max(LockLineHeight, lblLocked->sizeHint().height());
+    const int clickHeight = std::max(LockLineHeight, lblClickLock->heightForWidth(width));
+    lblLocked->setGeometry(LockTextLeft, lockTop, std::max(width / 4, lblLocked->sizeHint().width()), stateHeight);
+    lblClickLock->setGeometry(LockTextLeft, lockTop + stateHeight, width, clickHeight);
+
+    const int helpWidth = std::max(this->width() - 2 * Spacing::Margin, room.width()) - HelpLeft - 2 * Spacing::Margin;
+    const int helpBottom = room.top() + HelpTop + lblGWTHelp->heightForWidth(helpWidth) + Spacing::Margin;
+    pnlSetup->setFixedHeight(std::max({SetupHeight, lblClickLock->geometry().bottom() + SetupBottom, helpBottom}));
+}
+
+void frmGWT_SU::showEvent(QShowEvent* event) {
+    PlaceSetup();
+    OptionsWindow::showEvent(event);
+}
+
+void frmGWT_SU::changeEvent(QEvent* event) {
+    OptionsWindow::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        PlaceSetup();
+    }
 }
 
 QWidget* frmGWT_SU::MakeButtons() {

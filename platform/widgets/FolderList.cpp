@@ -80,9 +80,12 @@ SystemError FolderList::Refresh() {
 }
 
 void FolderList::SetPathAsUser(const QString& folder) {
+    const QString before = path;
     const SystemError error = SetPath(folder);
     if (error) {
         Q_EMIT Refused(folder, error);
+    } else if (path == before) {
+        Q_EMIT ChosenAgain();
     }
 }
 

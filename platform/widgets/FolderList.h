@@ -31,6 +31,8 @@ public:
 Q_SIGNALS:
     /// Path() is another folder now.
     void Changed();
+    /// The user chose the folder that is the current one already.
+    void ChosenAgain();
     /// The user chose a folder that cannot be read (gone, no permission, drive not ready); Path() stays as it was.
     void Refused(const QString& folder, const SystemError& error);
 

@@ -135,6 +135,69 @@ TEST_F(AdminWindow, ClearThenSaveStoresNoFolder) {
     EXPECT_TRUE(Saved().contains("[Path to Admin]\r\n\"\"\r\n"));
 }
 
+TEST_F(AdminWindow, AClearedFolderIsTakenBackInTheList) {
+    machine.MakeFolder(QStringLiteral("c:\\gwdata"));
+    Open();
+    auto* folders = Get<FolderList>("dirHDir_Admin");
+    Click("cmdClrAdminPath");
+    folders->setFocus();
+    QTest::keyClick(folders, Qt::Key_Return); // the folder that is open there
+    EXPECT_EQ(Label("lblAdminPath"), QStringLiteral("c:\\admin\\2015"));
+    EXPECT_TRUE(machine.Screen.Messages.empty());
+    for (int time = 1; time <= 2; ++time) { // each time that it is chosen anew it warns
+        machine.Screen.Answer(MessageAnswer::Ok);
+        folders->setProperty("path", QStringLiteral("c:\\gwdata"));
+        EXPECT_EQ(machine.Screen.Messages.size(), static_cast<std::size_t>(time));
+        EXPECT_EQ(Label("lblAdminPath"), QStringLiteral("c:\\gwdata"));
+        Click("cmdClrAdminPath");
+    }
+    EXPECT_TRUE(Label("lblAdminPath").isEmpty());
+}
+
+TEST_F(AdminWindow, AFolderThatCannotBeReadIsRefused) {
+    Open();
+    machine.Screen.Answer(MessageAnswer::Ok);
+    Get<FolderList>("dirHDir_Admin")->setProperty("path", QStringLiteral("c:\\gone"));
+    machine.Screen.Answer(MessageAnswer::Ok);
+    machine.Screen.Answer(MessageAnswer::Ok);
+    machine.Screen.AnswerFile(QStringLiteral("c:\\gone\\Don't_Delete_Me"));
+    Click("cmdAdminPath");
+    ASSERT_EQ(machine.Screen.Messages.size(), 3U);
+    for (const std::size_t refusal : {0U, 2U}) {
+        const Message& message = machine.Screen.Messages[refusal];
+        EXPECT_EQ(message.Title, QStringLiteral("Locate Gradewell Data Folders"));
+        EXPECT_TRUE(message.Text.startsWith(QStringLiteral("The folder [c:\\gone] cannot be used.\n\n")));
+        EXPECT_EQ(message.Icon, MessageIcon::Critical);
+    }
+    EXPECT_EQ(Label("lblAdminPath"), QStringLiteral("c:\\admin\\2015"));
+    EXPECT_EQ(Get<QComboBox>("drvHDir_Admin")->currentText(), QStringLiteral("c:"));
+    EXPECT_EQ(Get<FolderList>("dirHDir_Admin")->Path(), QStringLiteral("c:\\admin\\2015"));
+}
+
+TEST_F(AdminWindow, BrowseWithoutAFolderProposesTheBareName) {
+    ProgramConfig.PathToAdmin.clear();
+    Open();
+    machine.Screen.Answer(MessageAnswer::Ok);
+    machine.Screen.AnswerFile(QStringLiteral("c:\\admin\\2016\\other name"));
+    Click("cmdAdminPath");
+    EXPECT_EQ(machine.Screen.FileDialogs[0].FileName, QStringLiteral("Don't_Delete_Me"));
+    EXPECT_EQ(Label("lblAdminPath"), QStringLiteral("c:\\admin\\2016"));
+}
+
+TEST_F(AdminWindow, StoredPathsOfEveryForm) {
+    const char* const forms[][2] = {{"c:\\Admin\\2016\\", "c:\\admin\\2016"},
+                                    {"C:\\ADMIN", "c:\\admin"},
+                                    {"c:/admin/2016", "c:\\admin\\2016"},
+                                    {"c:\\", "c:\\"},
+                                    {"   ", ""}};
+    for (const auto& form : forms) {
+        ProgramConfig.PathToAdmin = QString::fromUtf8(form[0]);
+        Open();
+        EXPECT_EQ(Label("lblAdminPath"), QString::fromUtf8(form[1])) << form[0];
+    }
+    EXPECT_TRUE(machine.Screen.Messages.empty());
+}
+
 TEST_F(AdminWindow, ADriveThatIsNotReadyBringsOneMessage) {
     MappedVolumes drives(RealSystemCalls(), DriveTable{{QLatin1Char('c'), machine.Native(QStringLiteral("c:\\"))},
                                                        {QLatin1Char('g'), machine.Native(QStringLiteral("c:\\none"))}});

@@ -1,4 +1,7 @@
 #include "tests/admin/AdminWindowTest.h"
+#include "tests/support/FaultyCalls.h"
+
+#include <cerrno>
 
 namespace {
 
@@ -78,6 +81,26 @@ TEST_F(AdminWindow, NothingIsStoredBeforeSave) {
         EXPECT_EQ(Saved(), HandWritten("admin/before.cfg")) << way;
         EXPECT_FALSE(machine.Exists(QStringLiteral("c:\\gradewell\\GW_v11_PRG.CFG"))) << way;
     }
+}
+
+TEST_F(AdminWindow, AFailedSaveIsToldForBothFilesAndTheEditsStay) {
+    FaultyCalls faulty;
+    TestFolder other(faulty);
+    other.MakeFolder(QStringLiteral("c:\\admin\\2015"));
+    other.Write(QStringLiteral("c:\\gradewell\\GW_v12_PRG.CFG"), HandWritten("admin/before.cfg"));
+    Open();
+    List("cboRule_CourseStart")->setCurrentIndex(9);
+    faulty.FailAll(FaultyCalls::Kind::Write, ENOSPC);
+    other.Screen.Answer(MessageAnswer::Ok);
+    other.Screen.Answer(MessageAnswer::Ok);
+    Click("cmdSaveRules");
+    ASSERT_EQ(other.Screen.Messages.size(), 2U);
+    EXPECT_EQ(other.Screen.Messages[0].Title, QStringLiteral("GW_v11_PRG.CFG SAVE ERROR: 61"));
+    EXPECT_EQ(other.Screen.Messages[1].Title, QStringLiteral("GW_v12_PRG.CFG SAVE ERROR: 61"));
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(ProgramConfig.RuleCourseStart, 9);
+    EXPECT_EQ(other.Read(QStringLiteral("c:\\gradewell\\GW_v12_PRG.CFG")), HandWritten("admin/before.cfg"));
+    window.reset();
 }
 
 TEST_F(AdminWindow, EscapeLeavesABadTextWithoutACheck) {

@@ -114,6 +114,23 @@ TEST_F(AdminWindow, RulesAreTestedAsTheyStandInTheControls) {
     EXPECT_EQ(ProgramConfig, before);
 }
 
+TEST_F(AdminWindow, RulesChangedByKeysAreTestedAtOnce) {
+    Open();
+    Type("txtAdminTest", "ENG1D1-01");
+    Tab();
+    List("cboRule_CourseLength")->setFocus();
+    QTest::keyClick(List("cboRule_CourseLength"), Qt::Key_Down);
+    EXPECT_EQ(Parts(), "ENG1|01|1");
+    Get<QCheckBox>("chkUseSplitChar")->setFocus();
+    QTest::keyClick(window->focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(Parts(), "ENG1D1|01|1");
+    Get<QRadioButton>("optRule_GradeConv(0)")->setFocus();
+    QTest::keyClick(window->focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(Parts(), "ENG1D1|01|9");
+    QTest::keyClick(window->focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(Parts(), "ENG1D1|01|1");
+}
+
 TEST_F(AdminWindow, AnyListAtZeroClearsTheResultsInBothModes) {
     Open();
     for (const bool split : {false, true}) {

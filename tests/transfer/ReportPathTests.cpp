@@ -110,6 +110,36 @@ TEST_F(TransferWindow, BrowseOnAnotherDriveStaysThere) {
     window.reset();
 }
 
+TEST_F(TransferWindow, BrowseWithoutAFolderProposesTheBareName) {
+    OpenWith(HandWritten("transfer/windsor.cfg"));
+    machine.Screen.Answer(MessageAnswer::Ok);
+    machine.Screen.AnswerFile(QString());
+    Click("cmdGWT_Browse");
+    EXPECT_EQ(machine.Screen.FileDialogs[0].FileName, QStringLiteral("Don't_Delete_Me"));
+    EXPECT_TRUE(Label("lblReportPath").isEmpty());
+}
+
+TEST_F(TransferWindow, AClearedFolderIsTakenBackInTheList) {
+    OpenWith(FileWithPath("c:\\reports"));
+    Click("cmdClrPath");
+    auto* folders = Get<FolderList>("dirHDir");
+    folders->setFocus();
+    QTest::keyClick(folders, Qt::Key_Return); // the folder that is open there
+    EXPECT_EQ(Label("lblReportPath"), QStringLiteral("c:\\reports"));
+}
+
+TEST_F(TransferWindow, StoredPathsOfEveryForm) {
+    machine.MakeFolder(QStringLiteral("c:\\marks"));
+    const char* const forms[][2] = {
+        {"c:\\Reports\\", "c:\\reports"}, {"C:\\MARKS", "c:\\marks"}, {" c:\\marks ", "c:\\marks"},
+        {"c:/marks", "c:\\marks"},        {"c:\\", "c:\\"},           {"  ", ""}};
+    for (const auto& form : forms) {
+        OpenWith(FileWithPath(form[0]));
+        EXPECT_EQ(Label("lblReportPath"), QString::fromUtf8(form[1])) << form[0];
+    }
+    EXPECT_TRUE(machine.Screen.Messages.empty());
+}
+
 TEST_F(TransferWindow, ClearThenSaveStoresNoFolder) {
     OpenWith(HandWritten("transfer/secondary.cfg"));
     Click("cmdClrPath");
