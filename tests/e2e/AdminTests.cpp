@@ -1,5 +1,4 @@
 #include "tests/e2e/Boards.h"
-#include "tests/e2e/Screen.h"
 
 namespace {
 
@@ -52,6 +51,73 @@ TEST_P(AdminProgram, EditsTheRulesByMouseAndKeysAndSavesThemToTheByte) {
     EXPECT_EQ(Installed.Read(Newer).toStdString(), expected.toStdString());
     EXPECT_EQ(Installed.Read(Older).toStdString(), expected.toStdString());
     EXPECT_FALSE(Installed.Exists(QStringLiteral("admin/x")));
+}
+
+TEST_P(AdminProgram, TakesAFolderOfAnotherDriveAndWarnsOfOne) {
+    Installed.Write(Newer, Golden(QStringLiteral("start.cfg")));
+    MakeDrives();
+    Installed.MakeFolder(QStringLiteral("shared/Admin"));
+    Installed.MakeFolder(QStringLiteral("shared/GWdata"));
+    OpenFromMenu("alt+a", Title);
+    AwaitText(Title, "lblAdminPath", ""); // the stored folder is gone
+    TabTo(Title, "drvHDir_Admin");
+    Type(Title, "g");
+    AwaitText(Title, "lblAdminPath", "g:\\");
+    Type(Title, "Down"); // to h:
+    Program->Press(QStringLiteral("DISK ERROR"), QStringLiteral("Return"));
+    AwaitText(Title, "drvHDir_Admin", "g:");
+
+    TabTo(Title, "dirHDir_Admin");
+    Type(Title, "Down", 2);
+    Type(Title, "Return");
+    const QString warning = QStringLiteral("Gradewell Path Error");
+    Program->Press(warning, QStringLiteral("Return"));
+    AwaitText(Title, "lblAdminPath", "g:\\gwdata");
+    OpenRoot(Title, "dirHDir_Admin");
+    AwaitText(Title, "lblAdminPath", "g:\\");
+    Type(Title, "Down");
+    Type(Title, "Return");
+    AwaitText(Title, "lblAdminPath", "g:\\admin");
+    Program->Click(Title, QStringLiteral("cmdClrAdminPath"));
+    AwaitText(Title, "lblAdminPath", "");
+    Type(Title, "shift+Tab", 2);
+    Type(Title, "Return"); // the folder that is open there
+    AwaitText(Title, "lblAdminPath", "g:\\admin");
+
+    Program->Click(Title, QStringLiteral("cmdSaveRules"));
+    Program->AwaitWindow(Menu);
+    const QByteArray expected = Unlocked().replace("\"c:\\admin\"", "\"g:\\admin\"");
+    EXPECT_EQ(Installed.Read(Newer).toStdString(), expected.toStdString());
+}
+
+TEST_P(AdminProgram, ConversionAndSplitFollowTheMouse) {
+    Installed.Write(Newer, Golden(QStringLiteral("start.cfg")));
+    OpenFromMenu("alt+a", Title);
+    Program->Click(Title, QStringLiteral("optRule_GradeConv(0)"));
+    AwaitChecked(Title, "optRule_GradeConv(0)");
+    Program->Click(Title, QStringLiteral("lblConversion"));
+    AwaitChecked(Title, "optRule_GradeConv(1)");
+    Program->Click(Title, QStringLiteral("optRule_GradeConv(0)"));
+    AwaitChecked(Title, "optRule_GradeConv(0)");
+    Program->Click(Title, QStringLiteral("txtRule_GActual(5)"));
+    AwaitChecked(Title, "optRule_GradeConv(1)");
+    Program->Click(Title, QStringLiteral("optRule_GradeConv(0)"));
+    Program->Click(Title, QStringLiteral("chkUseSplitChar"));
+    Program->AwaitControl(Title, QStringLiteral("chkUseSplitChar"), QStringLiteral("to be cleared"),
+                          [](const auto& seen) { return !seen.Checked; });
+    Program->Enter(Title, QStringLiteral("txtSplitChar"), QStringLiteral("x"));
+    Program->Click(Title, QStringLiteral("cmdClrAdminPath"));
+    AwaitChecked(Title, "chkUseSplitChar");
+    AwaitText(Title, "txtSplitChar", "X");
+    Program->Click(Title, QStringLiteral("chkUseSplitChar"));
+    Program->Click(Title, QStringLiteral("cmdSaveRules"));
+    Program->AwaitWindow(Menu);
+    const QByteArray expected = Unlocked()
+                                    .replace("\"c:\\admin\"", "\"\"")
+                                    .replace("2,5,9,3,1,2,1,2", "2,5,9,3,1,2,0,1")
+                                    .replace("\"g5\"", "\"G5\"") // its box was left
+                                    .replace("\"/\"\r\n", "\"X\"\r\n");
+    EXPECT_EQ(Installed.Read(Newer).toStdString(), expected.toStdString());
 }
 
 TEST_P(AdminProgram, ABadSampleBringsOneMessageAndEscapeStoresNothing) {

@@ -2,6 +2,7 @@
 
 #include "tests/e2e/InstalledProgram.h"
 #include "tests/e2e/RunningProgram.h"
+#include "tests/e2e/Screen.h"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -14,8 +15,8 @@ protected:
     std::unique_ptr<RunningProgram> Program;
 
     /// Starts the program, gets past the message about the missing printer and opens a window by its access key.
-    void OpenFromMenu(const char* keys, const QString& title) {
-        Program = std::make_unique<RunningProgram>(Installed.Folder(), Installed.Edition.Executable);
+    void OpenFromMenu(const char* keys, const QString& title, const QStringList& environment = {}) {
+        Program = std::make_unique<RunningProgram>(Installed.Folder(), Installed.Edition.Executable, environment);
         Program->Press(Installed.Edition.PrinterTitle, QStringLiteral("Return"));
         Program->Press(Menu, QString::fromLatin1(keys));
         Program->AwaitWindow(title);
@@ -43,6 +44,24 @@ protected:
         for (int i = 0; i < times; ++i) {
             Program->Press(title, QString::fromLatin1(key));
         }
+    }
+
+    /// Gives the program a drive g: (the folder "shared" below its own) and a drive h: that is not ready.
+    void MakeDrives() {
+        const QByteArray folder = Installed.Folder().toUtf8();
+        Installed.MakeFolder(QStringLiteral("shared"));
+        Installed.Write(QStringLiteral("drives.conf"), "G=" + folder + "/shared\nH=" + folder + "/none\n");
+    }
+
+    /// Double clicks the first entry of a folder list, the root of its drive.
+    void OpenRoot(const QString& title, const char* list) {
+        const SeenWindow seen = Program->AwaitWindow(title);
+        DoubleClickAt(seen.Control(QString::fromLatin1(list)).Place.topLeft() + QPoint(30, 10));
+    }
+
+    void AwaitChecked(const QString& title, const char* control) {
+        Program->AwaitControl(title, QString::fromLatin1(control), QStringLiteral("to be chosen"),
+                              [](const auto& seen) { return seen.Checked; });
     }
 
     void AwaitText(const QString& title, const char* control, const char* text) {

@@ -1,5 +1,7 @@
 #include "tests/e2e/Boards.h"
 
+#include <QFile>
+
 namespace {
 
 const QString File = QStringLiteral("GWT10_PRG.CFG");
@@ -11,6 +13,14 @@ protected:
 
     void SetUp() override { Installed.Write(Installed.Edition.TransferProgram, "MZ"); }
     QByteArray Stored() const { return Golden(Installed.Edition.Component + QStringLiteral("-transfer.cfg")); }
+    /// Stored() with Windsor-Harts, which has no board, and no report folder.
+    QByteArray Windsor() const {
+        return Stored()
+            .replace("\"c:\\\"", "\"\"")
+            .replace("Sec]\r\n3", "Sec]\r\n2")
+            .replace("Number]\r\n16", "Number]\r\n10")
+            .replace("eSIS - Ontario: Secondary - Catholic", "Windsor-Harts");
+    }
     void AwaitShown(const char* frame) {
         Program->AwaitControl(Title, QString::fromLatin1(frame), QStringLiteral("to be shown"),
                               [](const auto& seen) { return seen.Visible; });
@@ -68,6 +78,85 @@ TEST_P(TransferProgram, CancelLeavesTheLockOfTheFile) {
     EXPECT_EQ(Installed.Read(File), Stored());
     Type(Menu, "alt+t");
     AwaitText(Title, "lblLocked", "Unlocked");
+}
+
+TEST_P(TransferProgram, AsksForAReportFolderThatIsGoneAndTakesAnother) {
+    MakeDrives();
+    Installed.Write(File, Stored().replace("\"c:\\\"", "\"g:\\late\""));
+    const QString gone = QStringLiteral("REPORT PATH ERROR");
+    OpenFromMenu("alt+t", gone);
+    Installed.MakeFolder(QStringLiteral("shared/Late"));
+    Program->Click(gone, QStringLiteral("Retry"));
+    AwaitText(Title, "lblReportPath", "g:\\late");
+    AwaitText(Title, "drvHDir", "g:");
+
+    TabTo(Title, "drvHDir");
+    Type(Title, "Down"); // to h:
+    Program->Press(QStringLiteral("DISK ERROR"), QStringLiteral("Return"));
+    AwaitText(Title, "drvHDir", "g:");
+    AwaitText(Title, "lblReportPath", "g:\\late");
+    OpenRoot(Title, "dirHDir");
+    AwaitText(Title, "lblReportPath", "g:\\");
+
+    Installed.MakeFolder(QStringLiteral("shared/GW Reports"));
+    const QString locate = QStringLiteral("Locate Gradewell Data Folders");
+    Type(Title, "alt+b");
+    Program->Press(locate, QStringLiteral("Return"));
+    Program->Await(QStringLiteral("the file dialog"), [&](const SeenScreen& screen) {
+        const SeenWindow* dialog = screen.Window(locate);
+        return dialog != nullptr && dialog->Active && dialog->Has(QStringLiteral("fileNameEdit"));
+    });
+    Program->Enter(locate, QStringLiteral("fileNameEdit"), Installed.Folder() + QStringLiteral("/shared/GW Reports/x"));
+    PressKey(QStringLiteral("Return"));
+    AwaitText(Title, "lblReportPath", "g:\\gw reports"); // no folder rule here
+    Type(Title, "alt+s");
+    Program->AwaitWindow(Menu);
+    EXPECT_EQ(Installed.Read(File).toStdString(), Stored().replace("\"c:\\\"", "\"g:\\gw reports\"").toStdString());
+    EXPECT_FALSE(Installed.Exists(QStringLiteral("shared/GW Reports/x")));
+}
+
+TEST_P(TransferProgram, OpensTheWorkHabitsList) {
+    Installed.Write(File, Windsor());
+    Installed.Write(QStringLiteral("xdg-open"), "#!/bin/sh\nprintf %s \"$1\" > \"${0%/*}/opened\"\n");
+    const QString opener = Installed.Folder() + QStringLiteral("/xdg-open");
+    QFile::setPermissions(opener, QFile::ReadOwner | QFile::ExeOwner);
+    OpenFromMenu("alt+t", Title, {QStringLiteral("PATH=") + Installed.Folder() + QStringLiteral(":/usr/bin:/bin")});
+    AwaitShown("fraWH_WorkHabits");
+    const QString question = QStringLiteral("CREATE/EDIT 'WorkHabits.txt'");
+    Type(Title, "alt+w");
+    Program->Press(question, QStringLiteral("Return")); // there is no such file yet, and no terminal to make one in
+    Program->Press(QStringLiteral("Can't start the text editor"), QStringLiteral("Return"));
+    Installed.Write(QStringLiteral("WorkHabits.txt"), "E\r\n");
+    Program->Click(Title, QStringLiteral("cmdWH_WorkHabits"));
+    Program->Press(question, QStringLiteral("Return"));
+    const QByteArray list = Installed.Folder().toUtf8() + "/WorkHabits.txt";
+    Program->Await(QStringLiteral("the list to be opened"),
+                   [&](const SeenScreen&) { return Installed.Read(QStringLiteral("opened")) == list; });
+    EXPECT_EQ(Installed.Read(QStringLiteral("WorkHabits.txt")), QByteArray("E\r\n"));
+    Type(Title, "alt+s");
+    Program->AwaitWindow(Menu);
+    EXPECT_EQ(Installed.Read(File).toStdString(), Windsor().toStdString());
+}
+
+TEST_P(TransferProgram, ADamagedFileOpensLockedAndIsKept) {
+    const QByteArray damaged = Windsor().left(100);
+    Installed.Write(File, damaged);
+    OpenFromMenu("alt+t", Title);
+    AwaitText(Title, "lblLocked", "Locked");
+    AwaitText(Title, "cboSIS", "");
+    AwaitText(Title, "cboBoard", "Elementary - Public");
+    TabTo(Title, "cboSIS");
+    Type(Title, "End");
+    AwaitShown("fraWH_WorkHabits");
+    TabTo(Title, "imgLocked");
+    Type(Title, "space");
+    AwaitText(Title, "lblLocked", "Unlocked");
+    Type(Title, "alt+s");
+    Program->AwaitWindow(Menu);
+    EXPECT_EQ(Installed.Read(File).toStdString(), Windsor().toStdString());
+    const QStringList copies = Installed.Files().filter(File + QStringLiteral(".damaged-"));
+    ASSERT_EQ(copies.size(), 1);
+    EXPECT_EQ(Installed.Read(copies[0]), damaged);
 }
 
 TEST_P(TransferProgram, AFailedSaveIsToldAndTheWindowStays) {
