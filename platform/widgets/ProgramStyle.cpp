@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOptionGroupBox>
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -11,6 +13,10 @@ constexpr int TitleTop = 7;
 constexpr int TitleLeft = 13;
 constexpr int TitleGap = 1; // between the title and the card's contents
 constexpr qreal CornerRadius = 5;
+constexpr double LeastContrast = 4.6; // a little more than what people need to read a text
+constexpr int LighterParts = 150;     // percent: how much lighter or darker a style paints parts of a button
+constexpr int DarkerParts = 124;
+constexpr int StepsToGoal = 20;
 constexpr qreal OutlineShare = 0.45; // of the text's colour: three to one against a dark card
 
 QFont TitleFont(const QWidget* widget) {
@@ -43,6 +49,64 @@ QColor CardColor(const QPalette& palette) {
                            : Blend(palette.color(QPalette::Window), palette.color(QPalette::Base), 0.6);
 }
 
+// As the guidelines for accessible contents count it.
+double Luminance(const QColor& color) {
+    const auto linear = [](double share) {
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+    const double first = Luminance(one) + 0.05;
+    const double second = Luminance(other) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+// The color, moved towards `goal` only as far as it takes to be readable on all of the backgrounds.
+QColor Readable(const QColor& color, const QColor& goal, std::initializer_list<QColor> backgrounds) {
+    QColor moved = color;
+    for (int step = 1; step <= StepsToGoal; ++step) {
+        const bool readable = std::all_of(backgrounds.begin(), backgrounds.end(), [&moved](const QColor& background) {
+            return Contrast(moved, background) >= LeastContrast;
+        });
+        if (readable) {
+            break;
+        }
+        moved = Blend(color, goal, qreal(step) / StepsToGoal);
+    }
+    return moved;
+}
+
+// Disabled texts of a palette stay fainter than the others.
+void MakeDisabledReadable(QPalette& palette) {
+    const QColor card = CardColor(palette);
+    const QColor window = palette.color(QPalette::Disabled, QPalette::Window);
+    const QColor base = palette.color(QPalette::Disabled, QPalette::Base);
+    const QColor button = palette.color(QPalette::Disabled, QPalette::Button);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        const QColor text = palette.color(QPalette::Disabled, role);
+        const QColor goal = palette.color(QPalette::Active, role);
+        palette.setColor(
+            QPalette::Disabled, role,
+            Readable(text, goal, {window, card, base, button.lighter(LighterParts), button.darker(DarkerParts)}));
+    }
+}
+
+// What is selected keeps the desktop's color, but for as much as it takes to read its text; hints stay faint.
+void MakeSelectionAndHintsReadable(QPalette& palette) {
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const QColor selected = palette.color(group, QPalette::HighlightedText);
+        const QColor away = Luminance(selected) > 0.5 ? QColor(Qt::black) : QColor(Qt::white);
+        palette.setColor(group, QPalette::Highlight,
+                         Readable(palette.color(group, QPalette::Highlight), away, {selected}));
+        const QColor base = palette.color(group, QPalette::Base);
+        const QColor hint = palette.color(group, QPalette::PlaceholderText);
+        palette.setColor(group, QPalette::PlaceholderText,
+                         Readable(Blend(base, hint, hint.alphaF()), palette.color(group, QPalette::Text), {base}));
+    }
+}
+
 QPainterPath OutlineOf(QStyle::PrimitiveElement element, const QRect& rect) {
     const QRectF edge = QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
     QPainterPath path;
@@ -58,6 +122,12 @@ QPainterPath OutlineOf(QStyle::PrimitiveElement element, const QRect& rect) {
 
 void ProgramStyle::Install() {
     QApplication::setStyle(new ProgramStyle);
+}
+
+void ProgramStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    MakeDisabledReadable(palette);
+    MakeSelectionAndHintsReadable(palette);
 }
 
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
