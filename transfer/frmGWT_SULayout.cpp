@@ -84,6 +84,7 @@ QWidget* frmGWT_SU::MakePathPanel() {
     column->addWidget(MakeWrappedLabel("lblCPHelp", panel));
     reportPath = new FolderPicker(PickerNames, PickerRules(), panel);
     reportPath->layout()->setSpacing(Spacing::Gap);
+    reportPath->layout()->setSizeConstraint(QLayout::SetMinimumSize);
     reportPath->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored); // it takes what the setup leaves
     column->addWidget(reportPath, 1);
     return panel;
@@ -162,14 +163,15 @@ void frmGWT_SU::PlaceSetup() {
     const int lockTop = boardTop + boardHeight + LockPlace.y() - BoardFrame.bottom() - 1;
     imgLocked->move(LockPlace.x(), lockTop);
     imgUnlocked->move(LockPlace.x(), lockTop);
-    constexpr int width = BoardFrame.right() - LockTextLeft;
+    constexpr int textWidth = BoardFrame.right() - LockTextLeft;
     const int stateHeight = std::max(LockLineHeight, lblLocked->sizeHint().height());
-    const int clickHeight = std::max(LockLineHeight, lblClickLock->heightForWidth(width));
-    lblLocked->setGeometry(LockTextLeft, lockTop, std::max(width / 4, lblLocked->sizeHint().width()), stateHeight);
-    lblClickLock->setGeometry(LockTextLeft, lockTop + stateHeight, width, clickHeight);
+    const int clickHeight = std::max(LockLineHeight, lblClickLock->heightForWidth(textWidth));
+    lblLocked->setGeometry(LockTextLeft, lockTop, std::max(textWidth / 4, lblLocked->sizeHint().width()), stateHeight);
+    lblClickLock->setGeometry(LockTextLeft, lockTop + stateHeight, textWidth, clickHeight);
 
-    const int helpWidth = std::max(this->width() - 2 * Spacing::Margin, room.width()) - HelpLeft - 2 * Spacing::Margin;
-    const int helpBottom = room.top() + HelpTop + lblGWTHelp->heightForWidth(helpWidth) + Spacing::Margin;
+    const int helpWidth = std::max(width() - 2 * Spacing::Margin, room.width()) - HelpLeft - 2 * Spacing::Margin;
+    const int helpBottom = room.top() + HelpTop + lblGWTHelp->heightForWidth(helpWidth) + Spacing::Margin +
+                           pnlSetup->contentsMargins().bottom();
     pnlSetup->setFixedHeight(std::max({SetupHeight, lblClickLock->geometry().bottom() + SetupBottom, helpBottom}));
 }
 

@@ -1,9 +1,9 @@
 #include "platform/widgets/OptionsWindow.h"
 
+#include "platform/widgets/ScreenFit.h"
+
 #include <QKeyEvent>
-#include <QLayout>
 #include <QPushButton>
-#include <algorithm>
 
 namespace {
 
@@ -23,11 +23,7 @@ void OptionsWindow::showEvent(QShowEvent* event) {
 }
 
 void OptionsWindow::KeepContentsWhole() {
-    if (layout() != nullptr) {
-        const int width = std::max(layout()->minimumSize().width(), WindowSize.width());
-        const int height = layout()->totalMinimumHeightForWidth(width); // wrapped texts need more than minimumSize says
-        setMinimumSize(width, std::max(height, WindowSize.height()));
-    }
+    FitToScreen(*this, WindowSize);
 }
 
 void OptionsWindow::keyPressEvent(QKeyEvent* event) {
