@@ -4,7 +4,7 @@
 #include "platform/widgets/ProgramStyle.h"
 
 #include <QAbstractButton>
-#include <QAbstractScrollArea>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -55,9 +55,9 @@ QSize Needed(const QWidget& control) {
     return {};
 }
 
-bool ScrollsWith(const QWidget& control, const QWidget& window) {
+bool IsPartOfAList(const QWidget& control, const QWidget& window) {
     for (const QWidget* at = control.parentWidget(); at != nullptr && at != &window; at = at->parentWidget()) {
-        if (qobject_cast<const QAbstractScrollArea*>(at) != nullptr) {
+        if (qobject_cast<const QAbstractItemView*>(at) != nullptr) {
             return true;
         }
     }
@@ -71,7 +71,7 @@ QStringList ClippedControls(const QWidget& window) {
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         const QString name = control->objectName();
         if (!control->isVisible() || name.isEmpty() || name.startsWith(QLatin1String("qt_")) ||
-            ScrollsWith(*control, window)) {
+            IsPartOfAList(*control, window)) {
             continue;
         }
         const QSize needed = Needed(*control);

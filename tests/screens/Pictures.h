@@ -1,11 +1,11 @@
 #pragma once
 
+#include "tests/screens/Viewer.h"
+
 #include <QString>
 
-class QWidget;
-
 /// Takes the pictures of one run.
-class PictureTaker {
+class PictureTaker : public Viewer {
 public:
     /// With a prefix, names have it and the picture's number: "FOLDER/english-light-100-03-NAME.png". Without one they
     /// are "FOLDER/NAME.png", and the files are small: at most 256 colours, the rarer ones being replaced.
@@ -13,7 +13,7 @@ public:
 
     /// Shows the window, waits until it is the active one and saves its picture. A control that is clipped is told
     /// of on the standard output.
-    void Take(QWidget& window, const char* name);
+    void Take(QWidget& window, const char* name) override;
 
     int Count() const { return count; }
     int ClippedCount() const { return clipped; }

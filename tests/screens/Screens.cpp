@@ -3,38 +3,15 @@
 /// with 0 when every picture was taken and no window showed a message.
 
 #include "platform/widgets/ProgramStyle.h"
+#include "tests/screens/Palettes.h"
 #include "tests/screens/Pictures.h"
 #include "tests/screens/Windows.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QStyle>
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <stdexcept>
-
-namespace {
-
-QPalette DarkPalette() {
-    const QColor text(0xe6, 0xe6, 0xe6);
-    const QColor faint(0x82, 0x82, 0x82);
-    QPalette palette(QColor(0x3a, 0x3a, 0x3c), QColor(0x2b, 0x2b, 0x2d));
-    palette.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x20));
-    palette.setColor(QPalette::AlternateBase, QColor(0x2b, 0x2b, 0x2d));
-    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb7));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(0x6c, 0xb2, 0xf5));
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, text);
-        palette.setColor(QPalette::Disabled, role, faint);
-    }
-    palette.setColor(QPalette::ToolTipBase, QColor(0x3a, 0x3a, 0x3c));
-    palette.setColor(QPalette::ToolTipText, text);
-    palette.setColor(QPalette::PlaceholderText, faint);
-    return palette;
-}
-
-} // namespace
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
@@ -48,8 +25,7 @@ int main(int argc, char** argv) {
     }
     ProgramStyle::Install();
     QApplication::setCursorFlashTime(0);
-    QApplication::setPalette(arguments[2] == QLatin1String("dark") ? DarkPalette()
-                                                                   : QApplication::style()->standardPalette());
+    UsePalette(arguments[2] == QLatin1String("dark"));
     const Edition edition = arguments[1] == QLatin1String("french") ? Edition::French : Edition::English;
     const int percent = qRound(qApp->devicePixelRatio() * 100);
     const QString prefix = QStringLiteral("%1-%2-%3").arg(arguments[1], arguments[2]).arg(percent);

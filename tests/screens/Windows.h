@@ -1,13 +1,13 @@
 #pragma once
 
 #include "app/ProductTexts.h"
-#include "tests/screens/Pictures.h"
+#include "tests/screens/Viewer.h"
 
-/// The pictures of each window, in the states that look different. Import, Admin and Transfer open with English
+/// Shows each window, in the states that look different. Import, Admin and Transfer open with English
 /// captions in both editions; in the French one they are taken with the French captions, too.
 
-void TakeMenu(Edition edition, PictureTaker& pictures);
-void TakeGeneralOptions(Edition edition, PictureTaker& pictures);
-void TakeImport(Edition edition, PictureTaker& pictures);
-void TakeAdmin(Edition edition, PictureTaker& pictures);
-void TakeTransfer(Edition edition, PictureTaker& pictures);
+void TakeMenu(Edition edition, Viewer& viewer);
+void TakeGeneralOptions(Edition edition, Viewer& viewer);
+void TakeImport(Edition edition, Viewer& viewer);
+void TakeAdmin(Edition edition, Viewer& viewer);
+void TakeTransfer(Edition edition, Viewer& viewer);
