@@ -55,7 +55,6 @@ QWidget* frmAdmin_SU::MakePathPanel() {
     help->setWordWrap(true);
     adminPath = new FolderPicker(PickerNames, PickerRules(), panel);
     adminPath->layout()->setSpacing(Spacing::Gap);
-    adminPath->layout()->setSizeConstraint(QLayout::SetMinimumSize);
     adminPath->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored); // it takes what the rules leave
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(Spacing::Margin, 4, Spacing::Margin, Spacing::Margin);

@@ -63,6 +63,7 @@ void FolderPicker::ArrangeControls() {
     buttons->addStretch();
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSizeConstraint(QLayout::SetMinimumSize); // also where a window gives it what others leave
     grid->setHorizontalSpacing(2 * Spacing);
     grid->setVerticalSpacing(Spacing / 2);
     grid->addWidget(driveCaption, 0, 0);

@@ -84,7 +84,6 @@ QWidget* frmGWT_SU::MakePathPanel() {
     column->addWidget(MakeWrappedLabel("lblCPHelp", panel));
     reportPath = new FolderPicker(PickerNames, PickerRules(), panel);
     reportPath->layout()->setSpacing(Spacing::Gap);
-    reportPath->layout()->setSizeConstraint(QLayout::SetMinimumSize);
     reportPath->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored); // it takes what the setup leaves
     column->addWidget(reportPath, 1);
     return panel;

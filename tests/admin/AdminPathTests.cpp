@@ -174,13 +174,13 @@ TEST_F(AdminWindow, AFolderThatCannotBeReadIsRefused) {
     EXPECT_EQ(Get<FolderList>("dirHDir_Admin")->Path(), QStringLiteral("c:\\admin\\2015"));
 }
 
-TEST_F(AdminWindow, BrowseWithoutAFolderProposesTheBareName) {
+TEST_F(AdminWindow, BrowseWithoutAFolderProposesTheName) {
     ProgramConfig.PathToAdmin.clear();
     Open();
     machine.Screen.Answer(MessageAnswer::Ok);
     machine.Screen.AnswerFile(QStringLiteral("c:\\admin\\2016\\other name"));
     Click("cmdAdminPath");
-    EXPECT_EQ(machine.Screen.FileDialogs[0].FileName, QStringLiteral("Don't_Delete_Me"));
+    EXPECT_EQ(machine.Screen.FileDialogs[0].FileName, QStringLiteral("\\Don't_Delete_Me"));
     EXPECT_EQ(Label("lblAdminPath"), QStringLiteral("c:\\admin\\2016"));
 }
 

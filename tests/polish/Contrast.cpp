@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int Enlargement = 3;
+constexpr int Enlargement = 4;
 constexpr std::size_t PixelsOfAStroke = 20; // fewer may be an accident of smoothing
 
 double Linear(int channel) {

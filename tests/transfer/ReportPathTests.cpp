@@ -110,12 +110,12 @@ TEST_F(TransferWindow, BrowseOnAnotherDriveStaysThere) {
     window.reset();
 }
 
-TEST_F(TransferWindow, BrowseWithoutAFolderProposesTheBareName) {
+TEST_F(TransferWindow, BrowseWithoutAFolderProposesTheName) {
     OpenWith(HandWritten("transfer/windsor.cfg"));
     machine.Screen.Answer(MessageAnswer::Ok);
     machine.Screen.AnswerFile(QString());
     Click("cmdGWT_Browse");
-    EXPECT_EQ(machine.Screen.FileDialogs[0].FileName, QStringLiteral("Don't_Delete_Me"));
+    EXPECT_EQ(machine.Screen.FileDialogs[0].FileName, QStringLiteral("\\Don't_Delete_Me"));
     EXPECT_TRUE(Label("lblReportPath").isEmpty());
 }
 
