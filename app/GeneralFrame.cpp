@@ -24,7 +24,7 @@ QString InEdition(const char* english, const char* french) {
 
 GeneralFrame::GeneralFrame(QWidget* parent)
     : QGroupBox(parent), lblGenOpt1(MenuLayout::NewText(this, "lblGenOpt1")),
-      lblGenOpt2(MenuLayout::NewText(this, "lblGenOpt2")), lblGenOpt3(MenuLayout::NewText(this, "lblGenOpt3")),
+      lblGenOpt2(MenuLayout::NewText(this, "lblGenOpt2")), lblGenOpt3(MenuLayout::NewText(this, "lblGenOpt3", MenuLayout::SideWidth)),
       cmdGeneral(MenuLayout::NewButton(this, "cmdGeneral")), lockCorner(new QWidget(this)) {
     setObjectName(QStringLiteral("fraGeneral"));
     BuildLockCorner();
@@ -44,7 +44,6 @@ void GeneralFrame::BuildLockCorner() {
     lblLocked->setObjectName(QStringLiteral("lblLocked"));
     QFont bold = lblLocked->font();
     bold.setBold(true);
-    bold.setPointSizeF(bold.pointSizeF() * 1.15);
     lblLocked->setFont(bold);
     auto* row = new QHBoxLayout(lockCorner);
     row->setContentsMargins(0, 0, 0, 0);

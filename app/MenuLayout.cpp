@@ -7,8 +7,9 @@
 
 namespace MenuLayout {
 
-QLabel* NewText(QWidget* parent, const char* name) {
+QLabel* NewText(QWidget* parent, const char* name, int width) {
     auto* label = new ExplanationLabel(parent);
+    label->SetPreferredWidth(width);
     label->setObjectName(QString::fromLatin1(name));
     label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     return label;

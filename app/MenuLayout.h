@@ -12,9 +12,10 @@ inline constexpr int WindowWidth = 800;  ///< 12000 twips
 inline constexpr int WindowHeight = 600; ///< 9000 twips
 inline constexpr int FrameWidth = 776;   ///< of a frame in the window as it opens
 inline constexpr int SideWidth = 200;    ///< of the right column
+inline constexpr int TextWidth = 525;    ///< of the left column in the window as it opens, less what a frame adds
 
-/// A wrapping text with an object name.
-QLabel* NewText(QWidget* parent, const char* name);
+/// A wrapping text with an object name, for a column of `width`.
+QLabel* NewText(QWidget* parent, const char* name, int width = TextWidth);
 
 /// A button of the right column's width.
 QPushButton* NewButton(QWidget* parent, const char* name);

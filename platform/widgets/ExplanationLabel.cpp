@@ -1,35 +1,74 @@
 #include "platform/widgets/ExplanationLabel.h"
 
 #include <QEvent>
+#include <QPainter>
+#include <QStyle>
+#include <cmath>
 
 namespace {
 
-constexpr int PreferredWidth = 320; // logical pixels
+constexpr int UsualWidth = 320; // logical pixels
 constexpr int LeastWidth = 120;
 
 } // namespace
 
-ExplanationLabel::ExplanationLabel(QWidget* parent) : QLabel(parent) {
+ExplanationLabel::ExplanationLabel(QWidget* parent) : QLabel(parent), preferredWidth(UsualWidth) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
 }
 
-int ExplanationLabel::heightForWidth(int width) const {
-    if (measured != text()) {
-        measured = text();
+void ExplanationLabel::SetPreferredWidth(int width) {
+    preferredWidth = width;
+    updateGeometry();
+}
+
+QTextLayout& ExplanationLabel::Measured() const {
+    if (measured == nullptr || measuredText != text()) {
+        measuredText = text();
+        QString lines = measuredText;
+        lines.replace(QLatin1Char('\n'), QChar::LineSeparator);
+        measured = std::make_unique<QTextLayout>(lines, font(), this);
+        measured->setCacheEnabled(true);
+        brokenAt = -1;
         heights.clear();
     }
-    const auto known = heights.constFind(width);
-    if (known != heights.constEnd()) {
-        return *known;
+    return *measured;
+}
+
+// Breaks the text into lines of a width; returns their height.
+int ExplanationLabel::BreakLines(int width) const {
+    QTextLayout& broken = Measured();
+    if (brokenAt == width) {
+        return heights.value(width);
     }
-    const int height = QLabel::heightForWidth(width);
-    heights.insert(width, height);
-    return height;
+    QTextOption option(QStyle::visualAlignment(layoutDirection(), alignment() & Qt::AlignHorizontal_Mask));
+    option.setTextDirection(layoutDirection());
+    broken.setTextOption(option);
+    const qreal leading = fontMetrics().leading();
+    qreal height = 0;
+    broken.beginLayout();
+    for (QTextLine line = broken.createLine(); line.isValid(); line = broken.createLine()) {
+        height += line.lineNumber() > 0 ? leading : 0;
+        line.setLineWidth(width);
+        line.setPosition(QPointF(0, height));
+        height += line.height();
+    }
+    broken.endLayout();
+    brokenAt = width;
+    heights.insert(width, static_cast<int>(std::ceil(height)));
+    return heights.value(width);
+}
+
+int ExplanationLabel::heightForWidth(int width) const {
+    const QMargins around = contentsMargins();
+    const int inner = width - around.left() - around.right();
+    Measured(); // forgets the heights of another text
+    const auto known = heights.constFind(inner);
+    return around.top() + around.bottom() + (known != heights.constEnd() ? *known : BreakLines(inner));
 }
 
 QSize ExplanationLabel::sizeHint() const {
-    return {PreferredWidth, fontMetrics().lineSpacing()};
+    return {preferredWidth, fontMetrics().lineSpacing()};
 }
 
 QSize ExplanationLabel::minimumSizeHint() const {
@@ -38,7 +77,19 @@ QSize ExplanationLabel::minimumSizeHint() const {
 
 void ExplanationLabel::changeEvent(QEvent* event) {
     QLabel::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        heights.clear();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::LayoutDirectionChange) {
+        measured.reset();
     }
+}
+
+void ExplanationLabel::paintEvent(QPaintEvent*) {
+    const QRect room = contentsRect();
+    const int height = BreakLines(room.width());
+    const int spare = std::max(0, room.height() - height);
+    const bool centred = (alignment() & Qt::AlignVCenter) != 0;
+    const int above = centred ? spare / 2 : (alignment() & Qt::AlignBottom) != 0 ? spare : 0;
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    measured->draw(&painter, room.topLeft() + QPointF(0, above));
 }

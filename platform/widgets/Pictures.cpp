@@ -41,14 +41,21 @@ QIcon PictureOfSizes(const QStringList& names) {
     return icon;
 }
 
-PictureButton::PictureButton(const QString& picture, int size, const QString& accessibleName, QWidget* parent)
-    : QToolButton(parent) {
-    setIcon(Picture(picture));
+PictureButton::PictureButton(const QString& pictureName, int size, const QString& accessibleName, QWidget* parent)
+    : QToolButton(parent), picture(pictureName) {
     setIconSize(QSize(size, size));
     setAutoRaise(true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(accessibleName);
     setToolTip(accessibleName);
+}
+
+// A button that is not shown yet needs no picture: polishing comes before it is measured or painted.
+bool PictureButton::event(QEvent* event) {
+    if (event->type() == QEvent::Polish) {
+        setIcon(Picture(picture));
+    }
+    return QToolButton::event(event);
 }
 
 void PictureButton::keyPressEvent(QKeyEvent* event) {

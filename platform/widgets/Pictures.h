@@ -18,7 +18,11 @@ public:
     PictureButton(const QString& picture, int size, const QString& accessibleName, QWidget* parent = nullptr);
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QString picture;
 };
 
 /// A label that raises Clicked for a press and release of the left button on it.
