@@ -12,8 +12,9 @@ namespace {
 
 LeaveGuard* installedGuard = nullptr;
 
-TextBox* FocusedBoxIn(const QWidget& window) {
-    return qobject_cast<TextBox*>(window.focusWidget());
+TextBox* BoxIn(const QWidget& window) {
+    TextBox* entered = TextBox::EnteredIn(window);
+    return entered != nullptr ? entered : qobject_cast<TextBox*>(window.focusWidget());
 }
 
 bool ActsWithoutFocus(const QWidget& widget) {
@@ -63,6 +64,9 @@ bool LeaveGuard::eventFilter(QObject* receiver, QEvent* event) {
         return true;
     }
     auto* widget = qobject_cast<QWidget*>(receiver);
+    if (widget != nullptr && type == QEvent::FocusIn) {
+        return RefusesFocus(*widget);
+    }
     if (widget == nullptr || (!press && type != QEvent::Shortcut)) {
         return false;
     }
@@ -73,17 +77,25 @@ bool LeaveGuard::eventFilter(QObject* receiver, QEvent* event) {
     return refused;
 }
 
+// A box that is left in the usual way has run its rule before; here comes a focus that was moved while the window was
+// not the active one, which tells no box of it.
+bool LeaveGuard::RefusesFocus(QWidget& widget) {
+    const TextBox* box = TextBox::EnteredIn(*widget.window());
+    return box != nullptr && StartsElsewhere(widget, *box) && !TextBox::LeaveIn(*widget.window());
+}
+
 bool LeaveGuard::Refuses(QWidget& widget, QEvent::Type type) {
     const bool press = type != QEvent::Shortcut;
     if (press && refusedIn == widget.window()) {
         refusedIn = nullptr;
         return true;
     }
-    TextBox* box = FocusedBoxIn(*widget.window());
+    TextBox* box = BoxIn(*widget.window());
     if (box == nullptr || !StartsElsewhere(widget, *box) || (press && !ActsOnPress(widget))) {
         return false;
     }
     if (!box->Leave()) {
+        box->setFocus(Qt::OtherFocusReason); // code may have moved it
         return true;
     }
     if (!press && widget.focusPolicy() != Qt::NoFocus && widget.isEnabled()) {

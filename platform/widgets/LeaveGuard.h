@@ -6,7 +6,8 @@
 class QWidget;
 
 /// Sees every event before its receiver and runs the lost-focus rule of the text box that has the focus when the event
-/// would start something elsewhere: a mouse press on another control, a button's access key. When the rule refuses,
+/// would start something elsewhere: a mouse press on another control, a button's access key, the focus that another
+/// control is given. When the rule refuses,
 /// the event goes no further. One guard serves the whole program; the first text box installs it.
 class LeaveGuard : public QObject {
     Q_OBJECT
@@ -26,5 +27,6 @@ private:
     QObject* refusedPress = nullptr;    // a release belongs to the press that was refused
     const QWidget* refusedIn = nullptr; // the window of a press that is still to come
 
+    static bool RefusesFocus(QWidget& widget);
     bool Refuses(QWidget& widget, QEvent::Type type);
 };

@@ -1,6 +1,7 @@
 #include "platform/widgets/TextBox.h"
 
 #include "platform/CodePage.h"
+#include "platform/widgets/ButtonAccess.h"
 #include "platform/widgets/LeaveGuard.h"
 
 #include <QFocusEvent>
@@ -9,6 +10,8 @@
 #include <utility>
 
 namespace {
+
+QPointer<TextBox> lastEntered;
 
 // The focus goes to a menu, a message box or another program and comes back: the user has not left the box.
 bool StaysInside(Qt::FocusReason reason) {
@@ -19,6 +22,7 @@ bool StaysInside(Qt::FocusReason reason) {
 
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     LeaveGuard::Install();
+    InstallButtonAccess();
     setAcceptDrops(false); // a drop would change a box that nobody enters or leaves
     connect(this, &QLineEdit::textChanged, this, &TextBox::KeepToCodePage);
 }
@@ -41,8 +45,24 @@ bool TextBox::Leave() {
     return accepted;
 }
 
+TextBox* TextBox::EnteredIn(const QWidget& window) {
+    TextBox* box = lastEntered;
+    const bool there = box != nullptr && box->window() == &window && box->isEnabled() && box->isVisible();
+    return there && box->entered && !box->runningRule ? box : nullptr;
+}
+
+bool TextBox::LeaveIn(const QWidget& window) {
+    TextBox* box = EnteredIn(window);
+    if (box == nullptr || box->Leave()) {
+        return true;
+    }
+    box->setFocus(Qt::OtherFocusReason);
+    return false;
+}
+
 void TextBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
+    lastEntered = this;
     if (std::exchange(away, false) && StaysInside(event->reason())) {
         return;
     }
@@ -59,6 +79,9 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     away = StaysInside(event->reason());
     const bool leaving = !away && window()->isVisible() && isEnabled() && isVisible();
+    if (!leaving && !away) {
+        lastEntered = nullptr; // taken away from the user, not left
+    }
     if (leaving && !Leave() && !runningRule) {
         if (event->reason() == Qt::MouseFocusReason) {
             LeaveGuard::RefusePressIn(window());

@@ -9,7 +9,8 @@
 /// The rule runs once when the user leaves the box, before anything else that the user started can act: before another
 /// control gets a mouse press, before a button is worked by its access key, before Tab moves on. When it refuses, the
 /// action does not happen and the focus stays. It does not run when the focus goes to a message box, a menu, another
-/// program, or when the window closes.
+/// program, or when the window closes. A focus that code moves while the window is not the active one is noticed as
+/// soon as the window becomes active again.
 class TextBox : public QLineEdit {
     Q_OBJECT
 
@@ -24,6 +25,12 @@ public:
 
     /// Runs the rule as leaving would, once for each stay in the box; true when the box may be left.
     bool Leave();
+
+    /// The box of the window that the user is in, by its rule: entered, and not yet left; null when there is none.
+    static TextBox* EnteredIn(const QWidget& window);
+
+    /// Runs the rule of that box before something of its window acts; false when it refuses, and nothing may happen.
+    static bool LeaveIn(const QWidget& window);
 
 Q_SIGNALS:
     /// The box got the focus from another control (not from a message box or another program).
