@@ -36,7 +36,7 @@ QTextLayout& ExplanationLabel::Measured() const {
 }
 
 // Breaks the text into lines of a width; returns their height.
-int ExplanationLabel::BreakLines(int width) const {
+qreal ExplanationLabel::BreakLines(int width) const {
     QTextLayout& broken = Measured();
     if (brokenAt == width) {
         return heights.value(width);
@@ -55,16 +55,20 @@ int ExplanationLabel::BreakLines(int width) const {
     }
     broken.endLayout();
     brokenAt = width;
-    heights.insert(width, static_cast<int>(std::ceil(height)));
-    return heights.value(width);
+    heights.insert(width, height);
+    return height;
 }
 
 int ExplanationLabel::heightForWidth(int width) const {
+    if (text().isEmpty()) {
+        return -1; // no matter of the width
+    }
     const QMargins around = contentsMargins();
     const int inner = width - around.left() - around.right();
     Measured(); // forgets the heights of another text
     const auto known = heights.constFind(inner);
-    return around.top() + around.bottom() + (known != heights.constEnd() ? *known : BreakLines(inner));
+    const qreal height = known != heights.constEnd() ? *known : BreakLines(inner);
+    return around.top() + around.bottom() + static_cast<int>(std::ceil(height));
 }
 
 QSize ExplanationLabel::sizeHint() const {
@@ -85,11 +89,13 @@ void ExplanationLabel::changeEvent(QEvent* event) {
 
 void ExplanationLabel::paintEvent(QPaintEvent*) {
     const QRect room = contentsRect();
-    const int height = BreakLines(room.width());
-    const int spare = std::max(0, room.height() - height);
+    const qreal spare = room.height() - BreakLines(room.width());
     const bool centred = (alignment() & Qt::AlignVCenter) != 0;
-    const int above = centred ? spare / 2 : (alignment() & Qt::AlignBottom) != 0 ? spare : 0;
+    const qreal above = centred ? spare / 2 : (alignment() & Qt::AlignBottom) != 0 ? spare : 0;
     QPainter painter(this);
+    if (room != rect()) {
+        painter.setClipRect(room); // a word that is too long
+    }
     painter.setPen(palette().color(foregroundRole()));
     measured->draw(&painter, room.topLeft() + QPointF(0, above));
 }

@@ -29,8 +29,8 @@ private:
     mutable std::unique_ptr<QTextLayout> measured; // the text with the place of every letter
     mutable QString measuredText;                  // the text that it belongs to
     mutable int brokenAt = -1;                     // the width that it is broken into lines for
-    mutable QHash<int, int> heights;               // by that width
+    mutable QHash<int, qreal> heights;             // by that width
 
     QTextLayout& Measured() const;
-    int BreakLines(int width) const;
+    qreal BreakLines(int width) const;
 };
