@@ -8,3 +8,4 @@
 #include "app/PrinterFont.h"   // the printer font check of start-up
 #include "app/ProductTexts.h"  // product texts, program folder, edition
 #include "app/ProgramConfig.h" // the settings record
+#include "platform/Desktop.h"  // messages and the answer to the last one

@@ -2,6 +2,7 @@
 
 #include "app/ProductTexts.h"
 #include "platform/CodePage.h"
+#include "platform/Desktop.h"
 
 #include <QLocale>
 

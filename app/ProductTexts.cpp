@@ -15,7 +15,6 @@ QString NoticeText;
 QString TitleLine;
 QString ProgramFolder;
 QString ConfigFileName;
-std::int16_t MsgAnswer = 0;
 std::array<QString, 13> MonthNames;
 std::array<QString, 8> WeekdayNames;
 

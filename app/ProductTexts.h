@@ -20,9 +20,6 @@ extern QString TitleLine;       ///< first line of every configuration file; nev
 extern QString ProgramFolder;   ///< the folder that the program runs from, without a trailing backslash
 extern QString ConfigFileName;  ///< the configuration file that was read
 
-/// The button answered in the last message box (MessageAnswer's numbers); ParseDayMonth keeps a weekday number here.
-extern std::int16_t MsgAnswer;
-
 /// Month and weekday names of the edition, indexed from 1 (January, Sunday); entry 0 is empty.
 extern std::array<QString, 13> MonthNames;
 extern std::array<QString, 8> WeekdayNames;

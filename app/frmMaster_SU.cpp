@@ -150,7 +150,6 @@ bool frmMaster_SU::ScreenIsLargeEnough() {
                                         "your screen settings.\n\nClick [Cancel] to use your current settings anyway.");
     const MessageAnswer answer = TheDesktop().ShowMessage(
         {QStringLiteral("ADJUST SCREEN RESOLUTION"), text, MessageButtons::OkCancel, MessageIcon::Critical});
-    MsgAnswer = static_cast<std::int16_t>(answer);
     return answer == MessageAnswer::Cancel;
 }
 
@@ -215,9 +214,12 @@ void frmMaster_SU::cmdTransfer_Click() {
 
 void frmMaster_SU::cmdManual_Click() {
     const QString manual = ProgramFolder + QString::fromLatin1(ManualName);
-    if (TheDesktop().StartProgram(HelperProgram::FileViewer, manual)) {
+    const auto tell = [manual] {
         ShowNotice(MessageIcon::Critical, QStringLiteral("Can't find Quick Start"),
                    QStringLiteral("Sorry, the file '") + manual + QStringLiteral("' is not available."));
+    };
+    if (TheDesktop().StartProgram(HelperProgram::FileViewer, manual, tell)) {
+        tell();
     }
 }
 

@@ -25,9 +25,10 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     ProgramStyle::Install();
     const NativePath executableFolder(QCoreApplication::applicationDirPath().toStdU16String());
-    ProgramDrives drives = OpenProgramDrives(RealSystemCalls(), executableFolder);
+    const auto language = BuiltEdition == Edition::French ? CaptionLanguage::French : CaptionLanguage::English;
+    ProgramDrives drives = OpenProgramDrives(RealSystemCalls(), executableFolder, language);
     // Never destroyed: a thread that hangs in a read of a stalled share may still need it when the program ends.
-    static auto* const desktop = new QtDesktop(std::move(drives.TheVolumes), RealSystemCalls());
+    static auto* const desktop = new QtDesktop(std::move(drives.TheVolumes), RealSystemCalls(), language);
     InstallDesktop(desktop);
     const frmCFG_IconOnly icon;
     QApplication::setWindowIcon(icon.windowIcon());

@@ -17,7 +17,8 @@ class AnsweringDesktop : public QtDesktop {
 public:
     using QtDesktop::QtDesktop;
 
-    MessageAnswer ShowMessage(const Message&) override { return MessageAnswer::Ok; }
+protected:
+    MessageAnswer AskUser(const Message&) override { return MessageAnswer::Ok; }
 };
 
 } // namespace

@@ -82,7 +82,6 @@ void frmImport_SU::SaveWithoutMatches() {
          QStringLiteral("Warning! Since no Field Matches have been made, the import file will not be 'Setup' for "
                         "teachers.\n\nDo you want to exit any way?"),
          MessageButtons::YesNo, MessageIcon::Critical});
-    MsgAnswer = static_cast<std::int16_t>(answer);
     if (answer != MessageAnswer::Yes) {
         return;
     }

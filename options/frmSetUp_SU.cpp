@@ -160,7 +160,6 @@ bool frmSetUp_SU::AskToSaveScheme() {
          QStringLiteral("You have made some changes to the currrent Grade / Level Scheme that have not been saved. \n\n"
                         "Do you want to save them now?"),
          MessageButtons::YesNo, MessageIcon::Question});
-    MsgAnswer = static_cast<std::int16_t>(answer);
     return answer == MessageAnswer::Yes;
 }
 

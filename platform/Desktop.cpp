@@ -3,6 +3,8 @@
 #include <QtGlobal>
 #include <utility>
 
+std::int16_t MsgAnswer = 0;
+
 namespace {
 
 Desktop* installedDesktop = nullptr;
@@ -16,6 +18,12 @@ Desktop& TheDesktop() {
 
 Desktop* InstallDesktop(Desktop* desktop) {
     return std::exchange(installedDesktop, desktop);
+}
+
+MessageAnswer Desktop::ShowMessage(const Message& message) {
+    const MessageAnswer answer = AskUser(message);
+    MsgAnswer = static_cast<std::int16_t>(answer);
+    return answer;
 }
 
 void ShowNotice(MessageIcon icon, const QString& title, const QString& text) {

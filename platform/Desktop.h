@@ -5,6 +5,8 @@
 #include <QDateTime>
 #include <QSize>
 #include <QString>
+#include <cstdint>
+#include <functional>
 
 class SystemCalls;
 class Volumes;
@@ -52,31 +54,42 @@ enum class HelperProgram {
     TextEditor, ///< "notepad.exe " on Windows, the desktop's opener or $EDITOR in a terminal elsewhere
 };
 
+/// The button answered in the last message box (MessageAnswer's numbers); ParseDayMonth keeps a weekday number here.
+extern std::int16_t MsgAnswer;
+
 /// Everything that windows and routines ask of the desktop and the operating system. The program installs the Qt one,
 /// a test a scripted one that records what was asked and gives the next answer.
 class Desktop {
 public:
     virtual ~Desktop() = default;
 
-    /// Shows a message box over the active window and waits for its answer.
-    virtual MessageAnswer ShowMessage(const Message& message) = 0;
+    /// Shows a message box over the active window, waits for its answer and keeps that in MsgAnswer.
+    MessageAnswer ShowMessage(const Message& message);
+
     virtual FileDialogAnswer AskForFile(const FileDialog& dialog) = 0;
     /// A font dialog of screen and printer fonts, with `fontName` (when not empty) at `pointSize` preselected.
     virtual FontDialogAnswer AskForFont(const QString& fontName, int pointSize) = 0;
 
     /// Starts another program with `path` (program's form) as its one argument, without a shell, and returns at once.
-    /// Reports 53 when the file is missing (FileViewer only) or nothing can be started.
-    virtual SystemError StartProgram(HelperProgram program, const QString& path) = 0;
+    /// Reports 53 when the file is missing (FileViewer only) or nothing can be started. A program that was started and
+    /// ends with failure within seconds, because it has nothing to show the file with, calls `whenFailed` from the
+    /// event loop; where the system does not tell of that (Windows), it is never called.
+    virtual SystemError StartProgram(HelperProgram program, const QString& path, std::function<void()> whenFailed) = 0;
 
     /// The screen's size in logical pixels.
     virtual QSize ScreenSize() = 0;
     /// Sets the default printer's font; false when there is no printer or it cannot use the font.
     virtual bool SetPrinterFont(const QString& fontName) = 0;
+    /// Lets the windows paint. What the user has pressed meanwhile waits until the action at hand is done.
     virtual void ProcessPendingEvents() = 0;
     virtual QDateTime Now() = 0;
 
     virtual Volumes& TheVolumes() = 0;
     virtual SystemCalls& TheSystemCalls() = 0;
+
+protected:
+    /// Shows the message box of ShowMessage.
+    virtual MessageAnswer AskUser(const Message& message) = 0;
 };
 
 /// The installed desktop. One must be installed before any window or file routine is used.

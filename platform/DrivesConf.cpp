@@ -35,19 +35,23 @@ QByteArray WithoutSlashes(QByteArray folder) {
 }
 
 // Adds the drive of a line; returns why it is skipped, nothing when it is good.
-QString AddLine(DriveTable& drives, const QByteArray& line) {
+QString AddLine(DriveTable& drives, const QByteArray& line, CaptionLanguage language) {
     const qsizetype equals = line.indexOf('=');
     const QChar letter = LetterOf(WithoutBlanks(line.left(equals)));
     if (equals < 0 || letter.isNull()) {
-        return QStringLiteral("It does not begin with a drive letter and \"=\".");
+        return InLanguage(language, "It does not begin with a drive letter and \"=\".",
+                          "Elle ne commence pas par une lettre de lecteur suivie de « = ».");
     }
     const QByteArray folder = WithoutSlashes(WithoutBlanks(line.mid(equals + 1)));
     const NativePath native = NativeFromBytes(folder);
     if (!native.is_absolute() || folder.contains('\0')) {
-        return QStringLiteral("The folder is no whole path from the root.");
+        return InLanguage(language, "The folder is no whole path from the root.",
+                          "Le dossier n'est pas un chemin complet depuis la racine.");
     }
     if (drives.contains(letter)) {
-        return QStringLiteral("The drive %1 stands in a line before.").arg(letter.toUpper());
+        return InLanguage(language, "The drive %1 stands in a line before.",
+                          "Le lecteur %1 figure déjà dans une ligne précédente.")
+            .arg(letter.toUpper());
     }
     drives.insert(letter, native);
     return {};
@@ -55,7 +59,7 @@ QString AddLine(DriveTable& drives, const QByteArray& line) {
 
 } // namespace
 
-DrivesConf ReadDrivesConf(const QByteArray& bytes) {
+DrivesConf ReadDrivesConf(const QByteArray& bytes, CaptionLanguage language) {
     QByteArray text = bytes.startsWith(ByteOrderMark) ? bytes.mid(3) : bytes;
     text.replace("\r\n", "\n").replace('\r', '\n');
     DrivesConf conf;
@@ -66,7 +70,7 @@ DrivesConf ReadDrivesConf(const QByteArray& bytes) {
         if (line.isEmpty() || line.startsWith('#')) {
             continue;
         }
-        const QString reason = AddLine(conf.Drives, line);
+        const QString reason = AddLine(conf.Drives, line, language);
         if (!reason.isEmpty()) {
             conf.BadLines.push_back({number, QString::fromUtf8(line), reason});
         }
@@ -77,16 +81,18 @@ DrivesConf ReadDrivesConf(const QByteArray& bytes) {
     return conf;
 }
 
-QStringList BadLineTexts(const DrivesConf& conf) {
+QStringList BadLineTexts(const DrivesConf& conf, CaptionLanguage language) {
     QStringList texts;
     for (const DrivesConf::BadLine& line : conf.BadLines) {
-        texts.append(QStringLiteral("Line %1 of drives.conf is skipped:\n[%2]\n\n%3")
+        texts.append(InLanguage(language, "Line %1 of drives.conf is skipped:\n[%2]\n\n%3",
+                                "La ligne %1 de drives.conf est ignorée :\n[%2]\n\n%3")
                          .arg(QString::number(line.Number), line.Text, line.Reason));
     }
     return texts;
 }
 
-QString DriveForProgramFolder(SystemCalls& calls, DriveTable& drives, const NativePath& folder, QString& complaint) {
+QString DriveForProgramFolder(SystemCalls& calls, DriveTable& drives, const NativePath& folder, QString& complaint,
+                              CaptionLanguage language) {
     const Volumes::ProgramResult reached = MappedVolumes(calls, drives).FromNative(folder);
     if (!reached.Error) {
         return WithoutTrailingBackslash(reached.Path);
@@ -98,8 +104,11 @@ QString DriveForProgramFolder(SystemCalls& calls, DriveTable& drives, const Nati
     if (drives.contains(letter)) {
         letter = u'z';
         complaint =
-            QStringLiteral("Every drive letter of drives.conf is taken, and none reaches the program folder.\n\n"
-                           "Drive Z stands for the program folder instead of [%1].")
+            InLanguage(language,
+                       "Every drive letter of drives.conf is taken, and none reaches the program folder.\n\n"
+                       "Drive Z stands for the program folder instead of [%1].",
+                       "Toutes les lettres de lecteur de drives.conf sont prises et aucune ne mène au dossier du "
+                       "programme.\n\nLe lecteur Z désigne le dossier du programme au lieu de [%1].")
                 .arg(ShownNative(drives.value(letter)));
     }
     drives.insert(letter, folder);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/CaptionLanguage.h"
 #include "platform/MappedVolumes.h"
 
 #include <QByteArray>
@@ -20,13 +21,14 @@ struct DrivesConf {
     std::vector<BadLine> BadLines; ///< skipped: no letter, no absolute folder, a letter for the second time
 };
 
-/// Reads the bytes of a drives.conf.
-DrivesConf ReadDrivesConf(const QByteArray& bytes);
+/// Reads the bytes of a drives.conf; the reasons are in the language.
+DrivesConf ReadDrivesConf(const QByteArray& bytes, CaptionLanguage language = CaptionLanguage::English);
 
 /// What to tell the user about each skipped line: which one it is, its text and the reason.
-QStringList BadLineTexts(const DrivesConf& conf);
+QStringList BadLineTexts(const DrivesConf& conf, CaptionLanguage language = CaptionLanguage::English);
 
 /// The program folder in the program's form, without a trailing backslash. A folder that no drive of the table reaches,
 /// or whose name cannot be written, is added to the table as the first free letter from Z backwards. Without a free
 /// letter Z changes hands, and `complaint` says so; else it stays as it was.
-QString DriveForProgramFolder(SystemCalls& calls, DriveTable& drives, const NativePath& folder, QString& complaint);
+QString DriveForProgramFolder(SystemCalls& calls, DriveTable& drives, const NativePath& folder, QString& complaint,
+                              CaptionLanguage language = CaptionLanguage::English);

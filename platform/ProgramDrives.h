@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/CaptionLanguage.h"
 #include "platform/Volumes.h"
 
 #include <QStringList>
@@ -13,5 +14,7 @@ struct ProgramDrives {
 };
 
 /// Reads the drive table `drives.conf` in the folder of the executable (a missing one is an empty one; one that cannot
-/// be read is a complaint) and makes the drives of it. `calls` stays the caller's and must outlive the drives.
-ProgramDrives OpenProgramDrives(SystemCalls& calls, const NativePath& executableFolder);
+/// be read is a complaint) and makes the drives of it. The complaints are in the language. `calls` stays the caller's
+/// and must outlive the drives.
+ProgramDrives OpenProgramDrives(SystemCalls& calls, const NativePath& executableFolder,
+                                CaptionLanguage language = CaptionLanguage::English);

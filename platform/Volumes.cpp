@@ -8,9 +8,11 @@ namespace {
 constexpr qsizetype DriveLength = 2;
 
 #ifdef _WIN32
-constexpr char16_t NoDriveText[] = u"No drive of this machine and no share of the network reaches it.";
+constexpr char NoDriveText[] = "No drive of this machine and no share of the network reaches it.";
+constexpr char NoDriveFrench[] = "Aucun lecteur de cet ordinateur et aucun partage du réseau n'y mène.";
 #else
-constexpr char16_t NoDriveText[] = u"No drive of the table in drives.conf reaches it.";
+constexpr char NoDriveText[] = "No drive of the table in drives.conf reaches it.";
+constexpr char NoDriveFrench[] = "Aucun lecteur de la table drives.conf n'y mène.";
 #endif
 
 } // namespace
@@ -42,13 +44,16 @@ QString Volumes::FirstFolder(const QString& drive) const {
     return drive + QChar(u'\\');
 }
 
-QString RefusedFolderText(const QString& nativeName, const SystemError& error) {
-    QString reason = QStringLiteral("Error %1: %2.").arg(error.Number).arg(error.Description);
+QString RefusedFolderText(const QString& nativeName, const SystemError& error, CaptionLanguage language) {
+    QString reason =
+        InLanguage(language, "Error %1: %2.", "Erreur %1 : %2.").arg(QString::number(error.Number), error.Description);
     if (error.Number == static_cast<int>(ErrorNumber::DeviceUnavailable)) {
-        reason = QString::fromUtf16(NoDriveText);
+        reason = InLanguage(language, NoDriveText, NoDriveFrench);
     } else if (error.Number == static_cast<int>(ErrorNumber::BadFileName)) {
-        reason = QStringLiteral("Its name has characters that the gradebook's files cannot hold.");
+        reason = InLanguage(language, "Its name has characters that the gradebook's files cannot hold.",
+                            "Son nom contient des caractères que les fichiers du carnet de notes n'admettent pas.");
     }
-    return QStringLiteral("The folder [%1] cannot be used.\n\n%2\n\nThe setting stays as it was.")
+    return InLanguage(language, "The folder [%1] cannot be used.\n\n%2\n\nThe setting stays as it was.",
+                      "Le dossier [%1] ne peut pas être utilisé.\n\n%2\n\nLe réglage reste tel qu'il était.")
         .arg(nativeName, reason);
 }

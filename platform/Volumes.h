@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/CaptionLanguage.h"
 #include "platform/SystemCalls.h"
 #include "platform/SystemError.h"
 
@@ -56,4 +57,5 @@ private:
 };
 
 /// What to tell a user whose folder was refused by FromNative: why, and that the setting stays as it was.
-QString RefusedFolderText(const QString& nativeName, const SystemError& error);
+QString RefusedFolderText(const QString& nativeName, const SystemError& error,
+                          CaptionLanguage language = CaptionLanguage::English);

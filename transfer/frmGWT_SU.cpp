@@ -126,8 +126,11 @@ void frmGWT_SU::EditWorkHabits() {
         return;
     }
     const QString list = JoinPath(ProgramFolder, QStringLiteral("WorkHabits.txt"));
-    if (TheDesktop().StartProgram(HelperProgram::TextEditor, list)) {
-        ShowNotice(MessageIcon::Critical, EditorErrorTitle(language), EditorErrorText(language, list));
+    const auto tell = [spoken = language, list] {
+        ShowNotice(MessageIcon::Critical, EditorErrorTitle(spoken), EditorErrorText(spoken, list));
+    };
+    if (TheDesktop().StartProgram(HelperProgram::TextEditor, list, tell)) {
+        tell();
     }
 }
 

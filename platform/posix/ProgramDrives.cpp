@@ -3,7 +3,7 @@
 #include "platform/DrivesConf.h"
 #include "platform/OpenFile.h"
 
-ProgramDrives OpenProgramDrives(SystemCalls& calls, const NativePath& executableFolder) {
+ProgramDrives OpenProgramDrives(SystemCalls& calls, const NativePath& executableFolder, CaptionLanguage language) {
     ProgramDrives result;
     NativePath file = executableFolder / "drives.conf";
     SystemCalls::FileStatus status;
@@ -14,13 +14,15 @@ ProgramDrives OpenProgramDrives(SystemCalls& calls, const NativePath& executable
     }
     if (failure != 0 && failure != ENOENT) {
         const SystemError error = ErrorFromErrno(failure);
-        result.Complaints.append(QStringLiteral("The drive table drives.conf cannot be read.\n\nError %1: %2.")
+        result.Complaints.append(InLanguage(language, "The drive table drives.conf cannot be read.\n\nError %1: %2.",
+                                            "La table des lecteurs drives.conf ne peut pas être lue.\n\n"
+                                            "Erreur %1 : %2.")
                                      .arg(QString::number(error.Number), error.Description));
     }
-    DrivesConf conf = ReadDrivesConf(bytes);
-    result.Complaints += BadLineTexts(conf);
+    DrivesConf conf = ReadDrivesConf(bytes, language);
+    result.Complaints += BadLineTexts(conf, language);
     QString complaint;
-    result.ProgramFolder = DriveForProgramFolder(calls, conf.Drives, executableFolder, complaint);
+    result.ProgramFolder = DriveForProgramFolder(calls, conf.Drives, executableFolder, complaint, language);
     if (!complaint.isEmpty()) {
         result.Complaints.append(complaint);
     }

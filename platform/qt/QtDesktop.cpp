@@ -3,8 +3,11 @@
 #include "platform/ProgramPath.h"
 #include "platform/Volumes.h"
 #include "platform/qt/DialogFilters.h"
+#include "platform/qt/FileDialogRules.h"
+#include "platform/qt/FrenchTexts.h"
 #include "platform/qt/HelperPrograms.h"
 #include "platform/qt/PrinterFonts.h"
+#include "platform/qt/StartedPrograms.h"
 #ifdef _WIN32
 #include "platform/qt/windows/SystemFontDialog.h"
 #endif
@@ -101,12 +104,17 @@ void Propose(QFileDialog& asked, const FileDialog& dialog, const Volumes& volume
 
 } // namespace
 
-QtDesktop::QtDesktop(std::unique_ptr<Volumes> volumesToUse, SystemCalls& callsToUse)
-    : volumes(std::move(volumesToUse)), calls(callsToUse) {}
+QtDesktop::QtDesktop(std::unique_ptr<Volumes> volumesToUse, SystemCalls& callsToUse, CaptionLanguage languageToUse)
+    : volumes(std::move(volumesToUse)), calls(callsToUse), language(languageToUse) {
+    if (language == CaptionLanguage::French) {
+        frenchTexts = std::make_unique<FrenchTexts>();
+        QCoreApplication::installTranslator(frenchTexts.get());
+    }
+}
 
 QtDesktop::~QtDesktop() = default;
 
-MessageAnswer QtDesktop::ShowMessage(const Message& message) {
+MessageAnswer QtDesktop::AskUser(const Message& message) {
     PlainMessageBox box(message);
     return AnswerOf(box.exec());
 }
@@ -115,18 +123,27 @@ FileDialogAnswer QtDesktop::AskForFile(const FileDialog& dialog) {
     const bool saving = dialog.DialogKind == FileDialog::Kind::Save;
     QFileDialog asked(Owner(), dialog.Title);
     asked.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    asked.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    asked.setFileMode(dialog.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     asked.setOption(QFileDialog::DontConfirmOverwrite, !dialog.OverwritePrompt);
     asked.setNameFilters(QtFilters(dialog.Filter));
     asked.setDefaultSuffix(dialog.DefaultExtension.mid(1));
     Propose(asked, dialog, *volumes);
-    if (asked.exec() != QDialog::Accepted || asked.selectedFiles().isEmpty()) {
-        return {QString(), MakeError(ErrorNumber::DialogCancelled)};
+    QString chosen;
+    for (bool fits = false; !fits;) {
+        if (asked.exec() != QDialog::Accepted || asked.selectedFiles().isEmpty()) {
+            return {QString(), MakeError(ErrorNumber::DialogCancelled)};
+        }
+        chosen = asked.selectedFiles().first();
+        const QString objection = ObjectionTo(chosen, dialog, language);
+        fits = objection.isEmpty();
+        if (!fits) {
+            ShowMessage({dialog.Title, objection, MessageButtons::Ok, MessageIcon::Exclamation});
+        }
     }
-    const QString chosen = asked.selectedFiles().first();
     const auto found = volumes->FromNative(NativePath(chosen.toStdU16String()));
     if (found.Error) {
-        ShowMessage({dialog.Title, RefusedFolderText(chosen, found.Error), MessageButtons::Ok, MessageIcon::Critical});
+        ShowMessage({dialog.Title, RefusedFolderText(chosen, found.Error, language), MessageButtons::Ok,
+                     MessageIcon::Critical});
         return {QString(), MakeError(ErrorNumber::DialogCancelled)};
     }
     return {found.Path, {}};
@@ -149,7 +166,7 @@ FontDialogAnswer QtDesktop::AskForFont(const QString& fontName, int pointSize) {
 #endif
 }
 
-SystemError QtDesktop::StartProgram(HelperProgram program, const QString& path) {
+SystemError QtDesktop::StartProgram(HelperProgram program, const QString& path, std::function<void()> whenFailed) {
     const auto native = volumes->ToNative(path);
     const QString file = TextOf(native.Path);
     const bool exists = !native.Error && QFileInfo::exists(file);
@@ -158,7 +175,8 @@ SystemError QtDesktop::StartProgram(HelperProgram program, const QString& path) 
     }
     const auto find = [](const QString& name) { return name.isEmpty() ? name : QStandardPaths::findExecutable(name); };
     const HelperCommand command = CommandFor(program, file, {find, qEnvironmentVariable("EDITOR"), exists});
-    return Start(command) ? SystemError() : MakeError(ErrorNumber::FileNotFound);
+    const bool started = !command.Program.isEmpty() && StartWatched(command, std::move(whenFailed));
+    return started ? SystemError() : MakeError(ErrorNumber::FileNotFound);
 }
 
 QSize QtDesktop::ScreenSize() {
@@ -172,7 +190,7 @@ bool QtDesktop::SetPrinterFont(const QString& fontName) {
 }
 
 void QtDesktop::ProcessPendingEvents() {
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 QDateTime QtDesktop::Now() {

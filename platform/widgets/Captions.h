@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/CaptionLanguage.h"
+
 #include <QString>
 #include <span>
 
@@ -11,8 +13,6 @@ struct Caption {
     const char* English;
     const char* French;
 };
-
-enum class CaptionLanguage { English, French };
 
 /// Gives each named control of the window its caption: text of labels and buttons, title of group boxes.
 /// Placeholders in the texts are not replaced. A control that the window lacks is a mistake of the table: debug builds

@@ -159,6 +159,40 @@ TEST(ProgramDrives, AreReadBesideTheExecutable) {
     EXPECT_TRUE(with.Complaints[0].contains(Text("Line 3")));
 }
 
+TEST(ProgramDrives, ComplaintsOfTheFrenchEditionAreFrench) {
+    const struct {
+        QByteArray Table;
+        QStringList Parts;
+    } cases[] = {
+        {"bad\n", {Text("La ligne 1 de drives.conf est ignorée"), Text("[bad]"), Text("lettre de lecteur")}},
+        {"G=srv\n", {Text("La ligne 1"), Text("[G=srv]"), Text("depuis la racine")}},
+        {"G=/a\ng=/b\n", {Text("La ligne 2"), Text("Le lecteur G figure déjà")}},
+    };
+    TestFolder folder;
+    const NativePath program = folder.Native(Text("c:\\"));
+    for (const auto& row : cases) {
+        folder.Write(Text("c:\\drives.conf"), row.Table);
+        const ProgramDrives drives = OpenProgramDrives(RealSystemCalls(), program, CaptionLanguage::French);
+        ASSERT_EQ(drives.Complaints.size(), 1);
+        for (const QString& part : row.Parts) {
+            EXPECT_TRUE(drives.Complaints[0].contains(part)) << drives.Complaints[0].toStdString();
+        }
+    }
+    QByteArray all;
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        all += QByteArray(1, letter) + "=/taken\n";
+    }
+    folder.Write(Text("c:\\drives.conf"), all);
+    const ProgramDrives taken = OpenProgramDrives(RealSystemCalls(), program, CaptionLanguage::French);
+    ASSERT_EQ(taken.Complaints.size(), 1);
+    EXPECT_TRUE(taken.Complaints[0].contains(Text("Le lecteur Z désigne"))) << taken.Complaints[0].toStdString();
+    folder.Remove(Text("c:\\drives.conf"));
+    folder.MakeFolder(Text("c:\\drives.conf"));
+    const ProgramDrives unread = OpenProgramDrives(RealSystemCalls(), program, CaptionLanguage::French);
+    ASSERT_EQ(unread.Complaints.size(), 1);
+    EXPECT_TRUE(unread.Complaints[0].contains(Text("ne peut pas être lue"))) << unread.Complaints[0].toStdString();
+}
+
 TEST(ProgramDrives, ATableThatCannotBeReadIsAComplaint) {
     const struct {
         FaultyCalls::Kind Failing;

@@ -58,3 +58,18 @@ TEST(Volumes, TellsWhyAFolderWasRefused) {
     EXPECT_TRUE(unnamed.contains(Text("characters")));
     EXPECT_TRUE(other.contains(Text("Error 70: Permission denied.")));
 }
+
+TEST(Volumes, TellsWhyAFolderWasRefusedInFrench) {
+    const struct {
+        ErrorNumber Number;
+        const char* Reason;
+    } cases[] = {{ErrorNumber::DeviceUnavailable, "Aucun lecteur"},
+                 {ErrorNumber::BadFileName, "caractères"},
+                 {ErrorNumber::PermissionDenied, "Erreur 70 : "}};
+    for (const auto& row : cases) {
+        const QString text = RefusedFolderText(Text("/mnt/é%1"), MakeError(row.Number), CaptionLanguage::French);
+        EXPECT_TRUE(text.startsWith(Text("Le dossier [/mnt/é%1] ne peut pas être utilisé."))) << text.toStdString();
+        EXPECT_TRUE(text.contains(Text(row.Reason))) << text.toStdString();
+        EXPECT_TRUE(text.endsWith(Text("Le réglage reste tel qu'il était."))) << text.toStdString();
+    }
+}

@@ -44,7 +44,7 @@ void ScriptedDesktop::AnswerFont(const QString& fontName) {
     fontAnswers.push_back(fontName);
 }
 
-MessageAnswer ScriptedDesktop::ShowMessage(const Message& message) {
+MessageAnswer ScriptedDesktop::AskUser(const Message& message) {
     Messages.push_back(message);
     if (answers.empty() && AnswerToOthers) {
         return *AnswerToOthers;
@@ -69,8 +69,9 @@ FontDialogAnswer ScriptedDesktop::AskForFont(const QString& fontName, int pointS
     return {name, CancelledIfEmpty(name)};
 }
 
-SystemError ScriptedDesktop::StartProgram(HelperProgram program, const QString& path) {
-    Started.push_back({program, path});
+SystemError ScriptedDesktop::StartProgram(HelperProgram program, const QString& path,
+                                          std::function<void()> whenFailed) {
+    Started.push_back({program, path, std::move(whenFailed)});
     return StartFailure;
 }
 

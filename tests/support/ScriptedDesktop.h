@@ -41,6 +41,7 @@ public:
     struct StartedProgram {
         HelperProgram Program;
         QString Path;
+        std::function<void()> WhenFailed;
     };
     std::vector<StartedProgram> Started;
     QStringList PrinterFonts;
@@ -52,16 +53,18 @@ public:
     SystemError StartFailure;
     QDateTime Clock{QDate(2016, 3, 7), QTime(9, 30)};
 
-    MessageAnswer ShowMessage(const Message& message) override;
     FileDialogAnswer AskForFile(const FileDialog& dialog) override;
     FontDialogAnswer AskForFont(const QString& fontName, int pointSize) override;
-    SystemError StartProgram(HelperProgram program, const QString& path) override;
+    SystemError StartProgram(HelperProgram program, const QString& path, std::function<void()> whenFailed) override;
     QSize ScreenSize() override { return Screen; }
     bool SetPrinterFont(const QString& fontName) override;
     void ProcessPendingEvents() override;
     QDateTime Now() override { return Clock; }
     Volumes& TheVolumes() override { return volumes; }
     SystemCalls& TheSystemCalls() override { return calls; }
+
+protected:
+    MessageAnswer AskUser(const Message& message) override;
 
 private:
     struct QueuedAnswer {
