@@ -1,5 +1,6 @@
-/// Compares the save of both configuration files with the bare system calls that a safe save of two files needs:
-/// benchmark_save FOLDER. The folder holds both files. Ends with 1 when the limit is passed.
+/// Compares the save of both configuration files, and their reading at the start, with the bare system calls that a
+/// safe save of two files and the read of one need: benchmark_save FOLDER. The folder holds both files. Ends with 1
+/// when the limit is passed.
 
 #include "app/CFG_2015.h"
 #include "benchmarks/Measuring.h"
@@ -14,6 +15,8 @@
 namespace {
 
 constexpr double MostTime = 1.5;
+constexpr double MostReadTime = 12;
+constexpr int Reads = 100; // a single one is too short for the clock
 constexpr double NanosecondsInMillisecond = 1e6;
 constexpr unsigned UsualMode = 0644;
 
@@ -43,6 +46,19 @@ void SaveBare(SystemCalls& calls, const NativePath& target, const QByteArray& by
     Sure(calls.SyncFolder(target.parent_path()));
 }
 
+/// Looks for the older file, opens it, reads to its end, closes it.
+void ReadBare(SystemCalls& calls, const NativePath& file) {
+    SystemCalls::FileStatus status;
+    Sure(calls.Status(file, status));
+    QByteArray bytes(status.Size + 1, '\0');
+    const int handle = Sure(calls.OpenForReading(file));
+    std::int64_t read = 0;
+    while (const std::int64_t more = Sure(calls.Read(handle, bytes.data() + read, bytes.size() - read))) {
+        read += more;
+    }
+    Sure(calls.Close(handle));
+}
+
 template <typename Action>
 double Milliseconds(const Action& action) {
     QElapsedTimer clock;
@@ -67,17 +83,30 @@ int main(int argc, char** argv) {
     LocateProgramConfig();
     const QByteArray bytes = WriteConfigText(ProgramConfig, TitleLine);
 
+    std::vector<double> ourReads;
+    std::vector<double> bareReads;
     std::vector<double> ours;
     std::vector<double> bare;
     for (int round = 0; round < Rounds; ++round) {
+        ourReads.push_back(Milliseconds([] {
+            for (int read = 0; read < Reads; ++read) {
+                LocateProgramConfig();
+            }
+        }));
+        bareReads.push_back(Milliseconds([&] {
+            for (int read = 0; read < Reads; ++read) {
+                ReadBare(calls, folder / "GW_v11_PRG.CFG");
+            }
+        }));
         ours.push_back(Milliseconds([] { SaveProgramConfig(); }));
         bare.push_back(Milliseconds([&] {
             SaveBare(calls, folder / "bare11.cfg", bytes);
             SaveBare(calls, folder / "bare12.cfg", bytes);
         }));
     }
-    return ReportRatio(QStringLiteral("Save of both configuration files"), QStringLiteral("ms"), Median(ours),
-                       Median(bare), MostTime)
-               ? 0
-               : 1;
+    const bool saves = ReportRatio(QStringLiteral("Save of both configuration files"), QStringLiteral("ms"),
+                                   Median(ours), Median(bare), MostTime);
+    const bool reads = ReportRatio(QStringLiteral("100 reads of the configuration"), QStringLiteral("ms"),
+                                   Median(ourReads), Median(bareReads), MostReadTime);
+    return saves && reads ? 0 : 1;
 }
