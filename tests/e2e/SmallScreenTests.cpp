@@ -13,7 +13,7 @@ TEST(SmallScreen, EndsTheProgramOnOk) {
     const InstalledProgram installed(EnglishNames());
     RunningProgram program(installed.Folder(), installed.Edition.Executable);
     program.Click(ScreenMessage, QStringLiteral("OK"));
-    program.AwaitEnd();
+    EXPECT_EQ(program.AwaitEnd(), 0);
     EXPECT_FALSE(installed.Exists(QStringLiteral("GW_v12_PRG.CFG"))) << "nothing is saved";
 }
 
