@@ -192,7 +192,7 @@ void frmMaster_SU::Form_Activate() {
 void frmMaster_SU::SetLock(bool locked) {
     ProgramConfig.ConfigLock = locked ? 1 : 0;
     fraGeneral->ShowLock(locked);
-    TheDesktop().ProcessPendingEvents();
+    TheDesktop().PaintPendingWindows();
     SaveProgramConfig();
 }
 

@@ -150,7 +150,7 @@ void frmSetUp_SU::ShowPanel() {
     p3dSetup[shown]->show();
     if (isVisible()) { // the load has nothing to paint yet
         KeepContentsWhole();
-        TheDesktop().ProcessPendingEvents();
+        TheDesktop().PaintPendingWindows();
     }
 }
 
@@ -168,7 +168,7 @@ void frmSetUp_SU::cmdPrefSave_Click() {
         scheme->cmdSaveScheme_Click();
     }
     imgSave->show();
-    TheDesktop().ProcessPendingEvents();
+    TheDesktop().PaintPendingWindows();
     CopyToSettings();
     SaveProgramConfig();
     imgSave->hide();

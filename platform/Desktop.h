@@ -80,8 +80,10 @@ public:
     virtual QSize ScreenSize() = 0;
     /// Sets the default printer's font; false when there is no printer or it cannot use the font.
     virtual bool SetPrinterFont(const QString& fontName) = 0;
-    /// Lets the windows paint. What the user has pressed meanwhile waits until the action at hand is done.
+    /// Lets everything that is pending happen, what the user has pressed included.
     virtual void ProcessPendingEvents() = 0;
+    /// Lets the windows paint. What the user has pressed meanwhile waits until the action at hand is done.
+    virtual void PaintPendingWindows() = 0;
     virtual QDateTime Now() = 0;
 
     virtual Volumes& TheVolumes() = 0;

@@ -108,7 +108,7 @@ void frmGWT_SU::SetLock(bool locked) {
     if (hadFocus) {
         (locked ? imgLocked : imgUnlocked)->setFocus();
     }
-    TheDesktop().ProcessPendingEvents();
+    TheDesktop().PaintPendingWindows();
 }
 
 // The picture that appears comes first, so that the focus is never without a place.

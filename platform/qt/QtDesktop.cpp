@@ -190,6 +190,10 @@ bool QtDesktop::SetPrinterFont(const QString& fontName) {
 }
 
 void QtDesktop::ProcessPendingEvents() {
+    QCoreApplication::processEvents();
+}
+
+void QtDesktop::PaintPendingWindows() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 

@@ -21,6 +21,7 @@ public:
     QSize ScreenSize() override;
     bool SetPrinterFont(const QString& fontName) override;
     void ProcessPendingEvents() override;
+    void PaintPendingWindows() override;
     QDateTime Now() override;
     Volumes& TheVolumes() override;
     SystemCalls& TheSystemCalls() override;

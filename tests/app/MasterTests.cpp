@@ -72,7 +72,7 @@ TEST_F(Menu, EveryWayToToggleTheLockWritesBothFiles) {
         EXPECT_EQ(Disk.Read(Older), lock ? locked : unlocked);
         EXPECT_EQ(Disk.Read(Newer), lock ? locked : unlocked);
     }
-    EXPECT_GE(Disk.Screen.PendingEventRounds, 6) << "the new picture is painted before the files are written";
+    EXPECT_GE(Disk.Screen.PaintRounds, 6) << "the new picture is painted before the files are written";
 }
 
 TEST_F(Menu, AStrayOrHeldEnterDoesNotWorkTheLock) {

@@ -8,7 +8,7 @@ QuietDesktop::~QuietDesktop() {
     InstallDesktop(before);
 }
 
-MessageAnswer QuietDesktop::ShowMessage(const Message& message) {
+MessageAnswer QuietDesktop::AskUser(const Message& message) {
     Shown += message.Text.isEmpty() ? 0 : 1;
     return MessageAnswer::Ok;
 }
@@ -23,7 +23,8 @@ FontDialogAnswer QuietDesktop::AskForFont(const QString& /*fontName*/, int /*poi
     std::abort();
 }
 
-SystemError QuietDesktop::StartProgram(HelperProgram /*program*/, const QString& /*path*/) {
+SystemError QuietDesktop::StartProgram(HelperProgram /*program*/, const QString& /*path*/,
+                                       std::function<void()> /*whenFailed*/) {
     std::abort();
 }
 
@@ -36,6 +37,10 @@ bool QuietDesktop::SetPrinterFont(const QString& /*fontName*/) {
 }
 
 void QuietDesktop::ProcessPendingEvents() {
+    std::abort();
+}
+
+void QuietDesktop::PaintPendingWindows() {
     std::abort();
 }
 

@@ -12,16 +12,19 @@ public:
 
     int Shown = 0;
 
-    MessageAnswer ShowMessage(const Message& message) override;
     FileDialogAnswer AskForFile(const FileDialog& dialog) override;
     FontDialogAnswer AskForFont(const QString& fontName, int pointSize) override;
-    SystemError StartProgram(HelperProgram program, const QString& path) override;
+    SystemError StartProgram(HelperProgram program, const QString& path, std::function<void()> whenFailed) override;
     QSize ScreenSize() override;
     bool SetPrinterFont(const QString& fontName) override;
     void ProcessPendingEvents() override;
+    void PaintPendingWindows() override;
     QDateTime Now() override;
     Volumes& TheVolumes() override;
     SystemCalls& TheSystemCalls() override;
+
+protected:
+    MessageAnswer AskUser(const Message& message) override;
 
 private:
     Desktop* before;

@@ -272,10 +272,10 @@ TEST_F(SetupSave, SaveShowsItsPictureWhileItWrites) {
     auto* picture = C<QLabel>(QStringLiteral("imgSave"));
     picture->installEventFilter(&counter);
     EXPECT_TRUE(picture->isHidden());
-    const int rounds = Screen.PendingEventRounds;
+    const int rounds = Screen.PaintRounds;
     Click("cmdPrefSave");
     EXPECT_EQ(counter.Shown, 1);
-    EXPECT_EQ(Screen.PendingEventRounds, rounds + 1);
+    EXPECT_EQ(Screen.PaintRounds, rounds + 1);
     EXPECT_TRUE(picture->isHidden());
 }
 

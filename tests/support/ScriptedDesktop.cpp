@@ -84,3 +84,8 @@ void ScriptedDesktop::ProcessPendingEvents() {
     ++PendingEventRounds;
     QCoreApplication::processEvents();
 }
+
+void ScriptedDesktop::PaintPendingWindows() {
+    ++PaintRounds;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}

@@ -46,6 +46,7 @@ public:
     std::vector<StartedProgram> Started;
     QStringList PrinterFonts;
     int PendingEventRounds = 0;
+    int PaintRounds = 0;
 
     // What the machine is like.
     QSize Screen{1280, 800};
@@ -59,6 +60,7 @@ public:
     QSize ScreenSize() override { return Screen; }
     bool SetPrinterFont(const QString& fontName) override;
     void ProcessPendingEvents() override;
+    void PaintPendingWindows() override;
     QDateTime Now() override { return Clock; }
     Volumes& TheVolumes() override { return volumes; }
     SystemCalls& TheSystemCalls() override { return calls; }

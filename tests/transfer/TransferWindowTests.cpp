@@ -100,7 +100,7 @@ TEST_F(TransferWindow, TheLockIsToggledByPicturesLabelAndKeys) {
     Click("imgLocked");
     EXPECT_EQ(Lock(), "Unlocked open");
     EXPECT_EQ(TransferLock, 0);
-    EXPECT_EQ(machine.Screen.PendingEventRounds, 1);
+    EXPECT_EQ(machine.Screen.PaintRounds, 1);
     Click("imgUnlocked");
     EXPECT_EQ(Lock(), "Locked closed");
     EXPECT_EQ(TransferLock, 1);
@@ -115,7 +115,7 @@ TEST_F(TransferWindow, TheLockIsToggledByPicturesLabelAndKeys) {
     QTest::keyClick(window->focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Lock(), "Locked closed");
     EXPECT_EQ(window->focusWidget()->objectName(), QStringLiteral("imgLocked"));
-    EXPECT_EQ(machine.Screen.PendingEventRounds, 6);
+    EXPECT_EQ(machine.Screen.PaintRounds, 6);
     EXPECT_EQ(Saved(), before);
 }
 
