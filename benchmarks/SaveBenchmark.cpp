@@ -8,6 +8,7 @@
 #include "platform/qt/QtDesktop.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QGuiApplication>
 #include <cstdio>
 #include <cstdlib>
@@ -15,7 +16,7 @@
 namespace {
 
 constexpr double MostTime = 1.5;
-constexpr double MostReadTime = 12;
+constexpr double MostReadTime = 5;
 constexpr int Reads = 100; // a single one is too short for the clock
 constexpr double NanosecondsInMillisecond = 1e6;
 constexpr unsigned UsualMode = 0644;
@@ -46,17 +47,18 @@ void SaveBare(SystemCalls& calls, const NativePath& target, const QByteArray& by
     Sure(calls.SyncFolder(target.parent_path()));
 }
 
-/// Looks for the older file, opens it, reads to its end, closes it.
-void ReadBare(SystemCalls& calls, const NativePath& file) {
-    SystemCalls::FileStatus status;
-    Sure(calls.Status(file, status));
-    QByteArray bytes(status.Size + 1, '\0');
-    const int handle = Sure(calls.OpenForReading(file));
-    std::int64_t read = 0;
-    while (const std::int64_t more = Sure(calls.Read(handle, bytes.data() + read, bytes.size() - read))) {
-        read += more;
+/// Looks for the older file, reads it and takes its lines apart, as plainly as Qt can: the number of items.
+qsizetype ReadBare(const QString& file) {
+    QFile plain(file);
+    if (!QFile::exists(file) || !plain.open(QIODevice::ReadOnly)) {
+        std::fprintf(stderr, "Cannot read %s\n", qPrintable(file));
+        std::exit(1);
     }
-    Sure(calls.Close(handle));
+    qsizetype items = 0;
+    for (const QString& line : QString::fromLatin1(plain.readAll()).split(QLatin1Char('\n'))) {
+        items += line.trimmed().split(QLatin1Char(',')).size();
+    }
+    return items;
 }
 
 template <typename Action>
@@ -83,6 +85,8 @@ int main(int argc, char** argv) {
     LocateProgramConfig();
     const QByteArray bytes = WriteConfigText(ProgramConfig, TitleLine);
 
+    const QString older = QString::fromLocal8Bit(argv[1]) + QStringLiteral("/GW_v11_PRG.CFG");
+    qsizetype items = 0; // of all plain reads, so that none is left out
     std::vector<double> ourReads;
     std::vector<double> bareReads;
     std::vector<double> ours;
@@ -95,7 +99,7 @@ int main(int argc, char** argv) {
         }));
         bareReads.push_back(Milliseconds([&] {
             for (int read = 0; read < Reads; ++read) {
-                ReadBare(calls, folder / "GW_v11_PRG.CFG");
+                items += ReadBare(older);
             }
         }));
         ours.push_back(Milliseconds([] { SaveProgramConfig(); }));
@@ -108,5 +112,5 @@ int main(int argc, char** argv) {
                                    Median(ours), Median(bare), MostTime);
     const bool reads = ReportRatio(QStringLiteral("100 reads of the configuration"), QStringLiteral("ms"),
                                    Median(ourReads), Median(bareReads), MostReadTime);
-    return saves && reads ? 0 : 1;
+    return saves && reads && items > 0 ? 0 : 1;
 }
