@@ -33,7 +33,7 @@ bool StartWatched(const HelperCommand& command, std::function<void()> whenFailed
     QObject::connect(process, &QProcess::finished, process,
                      [process, clock, whenFailed = std::move(whenFailed)](int code, QProcess::ExitStatus status) {
                          process->deleteLater();
-                         if ((code != 0 || status != QProcess::NormalExit) && clock.elapsed() < AtOnce) {
+                         if (whenFailed && (code != 0 || status != QProcess::NormalExit) && clock.elapsed() < AtOnce) {
                              whenFailed();
                          }
                      });

@@ -91,7 +91,7 @@ protected:
     QStringList Start(HelperProgram program, const char* name) {
         QFile::remove(Record());
         const QString path = QStringLiteral("c:\\place\\") + QString::fromUtf8(name);
-        const SystemError error = desktop.StartProgram(program, path);
+        const SystemError error = desktop.StartProgram(program, path, {});
         EXPECT_FALSE(error) << name;
         EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Record()); }, 30'000)) << name;
         QFile record(Record());
@@ -159,7 +159,8 @@ TEST_F(ChildPrograms, AnEditorThatIsNotThereIsToldAndNothingIsStarted) {
     Install("x-terminal-emulator");
     for (const char* editor : {"", "   ", "no-such-editor", "no-such-editor -w", "\"no such\" -w", "$(ed-it)", "\""}) {
         qputenv("EDITOR", editor);
-        const SystemError error = desktop.StartProgram(HelperProgram::TextEditor, QStringLiteral("c:\\place\\x.txt"));
+        const SystemError error =
+            desktop.StartProgram(HelperProgram::TextEditor, QStringLiteral("c:\\place\\x.txt"), {});
         EXPECT_EQ(error.Number, 53) << editor;
     }
     EXPECT_FALSE(QFile::exists(Record()));
