@@ -168,38 +168,6 @@ TEST_F(RealDesktop, ASaveDialogStaysUntilTheFolderExists) {
     EXPECT_TRUE(told.contains(QStringLiteral("The folder does not exist."))) << told.toStdString();
 }
 
-// A button pressed while an action lets the windows paint must not start another action in its middle.
-TEST_F(RealDesktop, WhatTheUserPressesWaitsWhileWindowsPaint) {
-    QPushButton button(QStringLiteral("button"));
-    int clicks = 0;
-    int paints = 0;
-    QObject::connect(&button, &QPushButton::clicked, [&clicks] { ++clicks; });
-    ShowActive(button);
-    class PaintCounter : public QObject {
-    public:
-        explicit PaintCounter(int& paintsToCount) : count(paintsToCount) {}
-        bool eventFilter(QObject*, QEvent* event) override {
-            count += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-
-    private:
-        int& count;
-    } counter(paints);
-    button.installEventFilter(&counter);
-    const QPointF middle = button.rect().center();
-    const QPointF onScreen = button.mapToGlobal(middle);
-    qt_handleMouseEvent(button.windowHandle(), middle, onScreen, Qt::LeftButton, Qt::LeftButton,
-                        QEvent::MouseButtonPress, {}, 1);
-    qt_handleMouseEvent(button.windowHandle(), middle, onScreen, Qt::NoButton, Qt::LeftButton,
-                        QEvent::MouseButtonRelease, {}, 2);
-    button.update();
-    Screen.PaintPendingWindows();
-    EXPECT_EQ(clicks, 0);
-    EXPECT_GT(paints, 0);
-    EXPECT_TRUE(QTest::qWaitFor([&clicks] { return clicks == 1; }));
-}
-
 #ifndef _WIN32
 
 // The opener that the machine has is a script of the test.
