@@ -24,7 +24,8 @@ QString InEdition(const char* english, const char* french) {
 
 GeneralFrame::GeneralFrame(QWidget* parent)
     : QGroupBox(parent), lblGenOpt1(MenuLayout::NewText(this, "lblGenOpt1")),
-      lblGenOpt2(MenuLayout::NewText(this, "lblGenOpt2")), lblGenOpt3(MenuLayout::NewText(this, "lblGenOpt3", MenuLayout::SideWidth)),
+      lblGenOpt2(MenuLayout::NewText(this, "lblGenOpt2")),
+      lblGenOpt3(MenuLayout::NewText(this, "lblGenOpt3", MenuLayout::SideWidth)),
       cmdGeneral(MenuLayout::NewButton(this, "cmdGeneral")), lockCorner(new QWidget(this)) {
     setObjectName(QStringLiteral("fraGeneral"));
     BuildLockCorner();
