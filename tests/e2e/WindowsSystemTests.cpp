@@ -130,7 +130,7 @@ TEST_F(WindowsSystem, TheTextEditorGetsAFolderWithACommaAsOneName) {
     Program->AwaitWindow(transfer);
 }
 
-TEST_F(WindowsSystem, AStudentFileOnAShareIsShown) {
+TEST_F(WindowsSystem, AStudentFileMayLieOnAShare) {
     Installed.MakeFolder(QStringLiteral("shared"));
     Installed.Write(QStringLiteral("shared/students.txt"), "Smith,John,M\r\n");
     const QByteArray stored = EditionGolden(Installed, "defaults")
@@ -146,8 +146,15 @@ TEST_F(WindowsSystem, AStudentFileOnAShareIsShown) {
     Program->AwaitText(import, QStringLiteral("lblMatched"), QStringLiteral("Matched: 0 of 3"));
     DoubleClickAt(Program->AwaitWindow(import).Control(QStringLiteral("lblFieldList(1)")).Place.center());
     Program->AwaitText(import, QStringLiteral("lblMatched"), QStringLiteral("Matched: 1 of 3"));
-    Program->Press(import, QStringLiteral("Escape"));
+    DoubleClickAt(Program->AwaitWindow(import).Control(QStringLiteral("lblFieldList(2)")).Place.center());
+    Program->AwaitText(import, QStringLiteral("lblMatched"), QStringLiteral("Matched: 2 of 3"));
+    Program->Press(import, QStringLiteral("alt+s"));
     Program->AwaitWindow(Menu);
+    EXPECT_TRUE(Installed.Read(QStringLiteral("shared/UpdField.cfg"))
+                    .contains("ActiveFields=2\r\nField1=Last Name\r\nField2=First Name\r\n"));
+    AwaitBothFiles(*Program, Installed,
+                   QByteArray(stored).replace("students.txt\"\r\n0\r\n\"\"\r\n",
+                                              "students.txt\"\r\n2\r\n\"0\"\r\n\"Last Name\"\r\n\"First Name\"\r\n"));
 }
 
 TEST_F(WindowsSystem, TheFontOfBarCodesComesFromTheSystemsFontDialog) {
