@@ -1,5 +1,7 @@
 #include "tests/fuzz/AllocationMeter.h"
 
+#include <cstddef>
+
 #if defined(__SANITIZE_ADDRESS__)
 #define GRADEWELL_MEASURES_MEMORY
 #elif defined(__has_feature)
@@ -19,7 +21,12 @@ thread_local std::int64_t peak = 0;
 } // namespace
 
 #ifdef GRADEWELL_MEASURES_MEMORY
-#include <sanitizer/allocator_interface.h>
+// AddressSanitizer's own functions. GCC has them in its library, but Debian leaves out the header.
+extern "C" {
+int __sanitizer_install_malloc_and_free_hooks(void (*taken)(const volatile void* block, std::size_t size),
+                                              void (*given)(const volatile void* block));
+std::size_t __sanitizer_get_allocated_size(const volatile void* block);
+}
 
 namespace {
 
@@ -32,7 +39,7 @@ void Taken(const volatile void* /*block*/, std::size_t size) {
 
 void Given(const volatile void* block) {
     if (measuring && block != nullptr) {
-        held -= static_cast<std::int64_t>(__sanitizer_get_allocated_size(const_cast<const void*>(block)));
+        held -= static_cast<std::int64_t>(__sanitizer_get_allocated_size(block));
     }
 }
 
