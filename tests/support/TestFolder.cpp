@@ -1,5 +1,7 @@
 #include "tests/support/TestFolder.h"
 
+#include "platform/BackgroundWork.h"
+
 #include <QFile>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -14,6 +16,10 @@ NativePath NativeOf(const QString& text) {
 
 TestFolder::TestFolder(SystemCalls& calls)
     : Drives(calls, DriveTable{{QLatin1Char('c'), NativeOf(directory.path())}}), Screen(Drives, calls) {}
+
+TestFolder::~TestFolder() {
+    AwaitBackgroundWork();
+}
 
 NativePath TestFolder::Native(const QString& path) const {
     QString below = path.mid(3);

@@ -11,6 +11,8 @@
 class TestFolder {
 public:
     explicit TestFolder(SystemCalls& calls = RealSystemCalls());
+    /// Waits for reads that were left to themselves: they use the calls, which may go next.
+    ~TestFolder();
 
     /// Where the path lies on the disk of this machine.
     NativePath Native(const QString& path) const;
