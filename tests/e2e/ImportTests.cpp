@@ -118,7 +118,7 @@ TEST_P(ImportWindow, ClearAllAndSaveRemoveTheSetup) {
     Program->Press(Window, QStringLiteral("alt+a"));
     AwaitMatches(0);
     Program->Press(Window, QStringLiteral("alt+s"));
-    Program->Press(QStringLiteral("DO NOT SETUP IMPORT FILE"), QStringLiteral("alt+y"));
+    Program->Press(QStringLiteral("DO NOT SETUP IMPORT FILE"), Installed.Edition.YesKeys);
     Program->AwaitWindow(Menu);
     EXPECT_FALSE(Installed.Exists(SetupFile));
     AwaitBothFiles(*Program, Installed,

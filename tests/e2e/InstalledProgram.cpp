@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QHash>
 #include <QProcess>
 #include <stdexcept>
 
@@ -46,7 +47,8 @@ EditionNames EnglishNames() {
             QStringLiteral("PRINTER FONT ERROR"),
             QStringLiteral("GWTCY_2016.exe"),
             QStringLiteral("alt+x"),
-            QStringLiteral("alt+s")};
+            QStringLiteral("alt+s"),
+            QStringLiteral("alt+y")};
 }
 
 EditionNames FrenchNames() {
@@ -57,7 +59,18 @@ EditionNames FrenchNames() {
             QStringLiteral("Erreur de police d'imprimante"),
             QStringLiteral("CNT_2016.exe"),
             QStringLiteral("alt+q"),
-            QStringLiteral("alt+e")};
+            QStringLiteral("alt+e"),
+            QStringLiteral("alt+o")};
+}
+
+QString EditionNames::Shown(const char* english) const {
+    static const QHash<QByteArray, QString> french = {{"Yes", QStringLiteral("Oui")},
+                                                      {"Retry", QStringLiteral("Réessayer")},
+                                                      {"Cancel", QStringLiteral("Annuler")},
+                                                      {"Save", QStringLiteral("Enregistrer")},
+                                                      {"Select Font", QStringLiteral("Choisir une police")}};
+    const QString same = QString::fromUtf8(english);
+    return Component == QLatin1String("french") ? french.value(english, same) : same;
 }
 
 InstalledProgram::InstalledProgram(const EditionNames& edition, ProgramKind kind) : Edition(edition) {

@@ -15,6 +15,10 @@ struct EditionNames {
     QString TransferProgram; ///< the file whose presence shows the Transfer area
     QString ExitKeys;        ///< access keys of Exit in the menu and of Save in an options window
     QString SaveKeys;
+    QString YesKeys; ///< of a question
+
+    /// What this edition shows for a button or title of a message or of the system's dialogs.
+    QString Shown(const char* english) const;
 };
 
 /// Whether the tests work the Windows programs: WINDOWS_BUILD names the build that made them, WINEPREFIX the folder

@@ -10,7 +10,7 @@ namespace {
 class OptionsInTrouble : public OptionsWindow {
 protected:
     void AnswerMessage(const char* title, const char* button) {
-        Program->Click(QString::fromUtf8(title), QString::fromUtf8(button));
+        Program->Click(QString::fromUtf8(title), Installed.Edition.Shown(button));
         Program->AwaitWindow(Title);
     }
     QByteArray Written(const char* name) { return Installed.Read(QString::fromUtf8(name)); }
@@ -91,7 +91,7 @@ TEST_P(OptionsInTrouble, FolderNamesThatNoFileCanHoldAreRefused) {
     DoubleClickAt(list.topLeft() + QPoint(40, 28));
     Program->AwaitControl(dialog, QStringLiteral("lookInCombo"), QStringLiteral("to show the folder"),
                           [](const auto& look) { return look.Text.endsWith(QStringLiteral("a\"b")); });
-    Program->Click(dialog, QStringLiteral("Save"));
+    Program->Click(dialog, Installed.Edition.Shown("Save"));
     Program->Await(QStringLiteral("the refusal"), showing("OK"));
     AnswerMessage("Set Gradewell Backup Path", "OK");
     AwaitText("lblBkupPath", "g:\\backup");
@@ -113,7 +113,7 @@ TEST_P(OptionsInTrouble, SchemeIsCheckedSavedAndLoadedAgain) {
     Program->Enter(Title, QStringLiteral("txtABCVal(2)"), QStringLiteral("60"));
     Program->Enter(Title, QStringLiteral("txtABCHeading"), QStringLiteral("Level"));
     Click("cmdPrefSave");
-    Program->Click(QStringLiteral("SAVE SCHEME"), QStringLiteral("Yes"));
+    Program->Click(QStringLiteral("SAVE SCHEME"), Installed.Edition.Shown("Yes"));
     AnswerFileDialog("Save Scheme", Network + QStringLiteral("/new"));
     ExpectSaved(State("options-start"));
     const QByteArray golden = Golden(QStringLiteral("three-levels.scm"));

@@ -114,7 +114,7 @@ void OptionsWindow::AnswerFileDialog(const char* title, const QString& nativeNam
 }
 
 void OptionsWindow::ChooseFont(const QString& name) {
-    const QString dialog = QStringLiteral("Select Font");
+    const QString dialog = Installed.Edition.Shown("Select Font");
     Program->AwaitWindow(dialog);
     TypeText(name);
     Program->Press(dialog, QStringLiteral("Return"));

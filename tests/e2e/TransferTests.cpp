@@ -86,7 +86,7 @@ TEST_P(TransferProgram, AsksForAReportFolderThatIsGoneAndTakesAnother) {
     const QString gone = QStringLiteral("REPORT PATH ERROR");
     OpenFromMenu("alt+t", gone);
     Installed.MakeFolder(QStringLiteral("shared/Late"));
-    Program->Click(gone, QStringLiteral("Retry"));
+    Program->Click(gone, Installed.Edition.Shown("Retry"));
     AwaitText(Title, "lblReportPath", "g:\\late");
     AwaitText(Title, "drvHDir", "g:");
 
