@@ -2,9 +2,6 @@
 
 namespace {
 
-const QString Older = QStringLiteral("GW_v11_PRG.CFG");
-const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
-
 class AdminProgram : public EachBoard {
 protected:
     const QString Title = Menu + QStringLiteral(" - TRANSFER to ADMIN EDITION");

@@ -5,6 +5,10 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+/// The two configuration files, of the gradebook before and of this one.
+inline const QString Older = QStringLiteral("GW_v11_PRG.CFG");
+inline const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
+
 /// The names and titles of one edition.
 struct EditionNames {
     QString Component; ///< what cmake --install calls it

@@ -2,13 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-const QString Older = QStringLiteral("GW_v11_PRG.CFG");
-const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
-
-} // namespace
-
 EditionNames NamesOf(const std::string& edition) {
     return edition == "french" ? FrenchNames() : EnglishNames();
 }

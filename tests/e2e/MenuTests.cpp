@@ -4,8 +4,6 @@
 
 namespace {
 
-const QString Older = QStringLiteral("GW_v11_PRG.CFG");
-const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
 const QString PathFileName = QStringLiteral("GdWlPath.cfg");
 const QString LockLabel = QStringLiteral("lblLocked");
 const QString ClosedLock = QStringLiteral("imgLocked");

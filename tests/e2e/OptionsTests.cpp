@@ -4,7 +4,6 @@
 
 namespace {
 
-const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
 const QString MailServer = QStringLiteral("txtSMTP");
 
 /// What Save of General Options makes of the unlocked file once the date format is 3 and the mail server typed.

@@ -5,7 +5,6 @@
 
 namespace {
 
-const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
 const QString FileNameBox = QStringLiteral("fileNameEdit");
 
 QString Name(const char* text) {

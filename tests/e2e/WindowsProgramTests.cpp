@@ -18,8 +18,6 @@ namespace {
 
 constexpr int Patience = 60'000;
 constexpr unsigned long BetweenLooks = 50;
-const QString Older = QStringLiteral("GW_v11_PRG.CFG");
-const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
 const QString Students = QStringLiteral("students.txt");
 const QString ImportDialog = QStringLiteral("Open an Import File");
 // In the order of the columns of the student data file; the last one is "Ignore this field".

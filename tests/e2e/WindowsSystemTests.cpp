@@ -13,8 +13,6 @@
 namespace {
 
 constexpr int Patience = 60'000;
-const QString Older = QStringLiteral("GW_v11_PRG.CFG");
-const QString Newer = QStringLiteral("GW_v12_PRG.CFG");
 const QString List = QStringLiteral("WorkHabits.txt");
 const QString LockLabel = QStringLiteral("lblLocked");
 

@@ -1,5 +1,5 @@
 #include "import/FieldMatching.h"
-#include "tests/import/Text.h"
+#include "tests/support/Text.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 #include "import/frmImport_SU.h"
 #include "platform/BackgroundWork.h"
 #include "tests/import/FaultyDisk.h"
-#include "tests/import/Text.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Text.h"
 
 #include <QtTest>
 #include <gtest/gtest.h>

@@ -1,16 +1,16 @@
 #include "import/LeadingNumber.h"
-#include "tests/import/Text.h"
+#include "tests/support/Text.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-struct Case {
+struct NumberCase {
     const char* text;
     int number;
 };
 
-constexpr Case Fitting[] = {
+constexpr NumberCase Fitting[] = {
     {"6", 6},          {"  12", 12},       {"+7", 7},          {"-3", -3},           {"", 0},        {"   ", 0},
     {"abc", 0},        {"x6", 0},          {"6x", 6},          {"6 7", 6},           {"3,5", 3},     {"\t5", 0},
     {"007", 7},        {"0.5", 0},         {"1.5", 2},         {"2.5", 2},           {"3.5", 4},     {"24.5", 24},
@@ -21,7 +21,7 @@ constexpr Case Fitting[] = {
     {"0.49999999", 0}, {"1.50000001", 2},  {"é4", 0}};
 
 TEST(LeadingNumberTest, ReadsTheNumberThatATextBeginsWith) {
-    for (const Case& row : Fitting) {
+    for (const NumberCase& row : Fitting) {
         std::int16_t value = 99;
         EXPECT_TRUE(LeadingNumber(Text(row.text), value)) << row.text;
         EXPECT_EQ(row.number, value) << row.text;

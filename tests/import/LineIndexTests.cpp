@@ -7,12 +7,12 @@
 
 namespace {
 
-struct Case {
+struct LinesCase {
     QByteArray bytes;
     std::int64_t lines;
 };
 
-const Case Cases[] = {
+const LinesCase Cases[] = {
     {"", 0},
     {"a", 1},
     {"a\n", 1},
@@ -55,7 +55,7 @@ std::vector<std::int64_t> StartsOf(const QByteArray& bytes) {
 }
 
 TEST(LineIndexTest, CountsLinesWhereverThePiecesEnd) {
-    for (const Case& row : Cases) {
+    for (const LinesCase& row : Cases) {
         for (qsizetype piece = 1; piece <= row.bytes.size() + 1; ++piece) {
             EXPECT_EQ(row.lines, Indexed(row.bytes, piece, 4, 8).LineCount())
                 << row.bytes.toPercentEncoding().constData() << " by " << piece;

@@ -1,12 +1,9 @@
 #include "tests/import/ImportWindow.h"
+#include "tests/support/Text.h"
 
 namespace {
 
 using MatchingWindowTest = ImportWindowTest;
-
-QStringList List(const char* separatedByBars) {
-    return Text(separatedByBars).split(QChar(u'|'));
-}
 
 TEST_F(MatchingWindowTest, ADoubleClickMatchesTheNextRow) {
     OpenWith("a,b,c");

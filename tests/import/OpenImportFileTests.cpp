@@ -1,12 +1,9 @@
 #include "tests/import/ImportWindow.h"
+#include "tests/support/Text.h"
 
 namespace {
 
 using OpenImportFileTest = ImportWindowTest;
-
-QStringList List(const char* separatedByBars) {
-    return Text(separatedByBars).split(QChar(u'|'));
-}
 
 TEST_F(OpenImportFileTest, ShowsTheFirstRecordOfTheSetUpFile) {
     OpenWith("Smith,John,M\r\nJones,Ann,F\r\n");

@@ -1,4 +1,5 @@
 #include "tests/import/ImportWindow.h"
+#include "tests/support/Text.h"
 
 namespace {
 
@@ -10,10 +11,6 @@ protected:
         std::filesystem::last_write_time(folder.Native(path), later);
     }
 };
-
-QStringList List(const char* separatedByBars) {
-    return Text(separatedByBars).split(QChar(u'|'));
-}
 
 TEST_F(PagingTest, PagesAndStopsAtBothEnds) {
     OpenWith("a,b,c\nd,e,f\ng,h,i");

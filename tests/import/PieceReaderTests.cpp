@@ -1,7 +1,7 @@
 #include "import/PieceReader.h"
 #include "tests/import/FaultyDisk.h"
-#include "tests/import/Text.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,23 +1,19 @@
 #include "import/RecordSplitter.h"
-#include "tests/import/Text.h"
+#include "tests/support/Text.h"
 
 #include <gtest/gtest.h>
 #include <random>
 
 namespace {
 
-struct Case {
+struct RecordCase {
     QByteArray record;
     char separator;
     QStringList fields;
 };
 
-QStringList List(const char* separatedByBars) {
-    return Text(separatedByBars).split(QChar(u'|'));
-}
-
 TEST(SplitImportRecordTest, TakesRecordsApart) {
-    const Case cases[] = {
+    const RecordCase cases[] = {
         {"Smith,John,M", ',', List("Smith|John|M")},
         {"Smith\tJohn\tM", '\t', List("Smith|John|M")},
         {"Smith, Jr\tJohn", '\t', List("Smith, Jr|John")},
@@ -58,7 +54,7 @@ TEST(SplitImportRecordTest, TakesRecordsApart) {
         {"\xC9tienne,\x80", ',', List("Étienne|€")},
         {QByteArray("a\0b,c", 5), ',', {QString::fromUtf8("a\0b", 3), Text("c")}},
     };
-    for (const Case& row : cases) {
+    for (const RecordCase& row : cases) {
         const ImportRecord record = SplitImportRecord(row.record);
         EXPECT_EQ(row.separator, record.Separator) << row.record.constData();
         EXPECT_EQ(row.fields, record.Fields) << row.record.constData();

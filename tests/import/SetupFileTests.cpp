@@ -1,6 +1,6 @@
 #include "import/SetupFile.h"
-#include "tests/import/Text.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Text.h"
 
 #include <gtest/gtest.h>
 

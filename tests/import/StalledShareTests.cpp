@@ -1,10 +1,7 @@
 #include "tests/import/ImportWindow.h"
+#include "tests/support/Text.h"
 
 namespace {
-
-QStringList List(const char* separatedByBars) {
-    return Text(separatedByBars).split(QChar(u'|'));
-}
 
 /// A student data file with a setup on a share whose reads may hang.
 class StalledShareTest : public ImportWindowTest {

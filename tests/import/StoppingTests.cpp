@@ -1,10 +1,7 @@
 #include "tests/import/ImportWindow.h"
+#include "tests/support/Text.h"
 
 namespace {
-
-QStringList List(const char* separatedByBars) {
-    return Text(separatedByBars).split(QChar(u'|'));
-}
 
 /// Lets the window's user act while the file is counted.
 class StoppingTest : public ImportWindowTest {

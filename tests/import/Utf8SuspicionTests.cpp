@@ -5,12 +5,12 @@
 
 namespace {
 
-struct Case {
+struct BytesCase {
     QByteArray bytes;
     bool suspected;
 };
 
-const Case Cases[] = {
+const BytesCase Cases[] = {
     {"", false},
     {"plain text only", false},
     {"\xEF\xBB\xBF", true},
@@ -47,7 +47,7 @@ const Case Cases[] = {
 };
 
 TEST(Utf8SuspicionTest, JudgesByMarkOrValidCharacters) {
-    for (const Case& row : Cases) {
+    for (const BytesCase& row : Cases) {
         for (qsizetype piece = 1; piece <= row.bytes.size() + 1; ++piece) {
             Utf8Suspicion suspicion;
             for (qsizetype at = 0; at < row.bytes.size(); at += piece) {

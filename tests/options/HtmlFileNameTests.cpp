@@ -4,7 +4,7 @@
 
 namespace {
 
-struct NameCase {
+struct HtmlNameCase {
     const char* School;
     std::int16_t Order;
     const char* Name;
@@ -12,7 +12,7 @@ struct NameCase {
     const char* Sep2After;
 };
 
-class HtmlNames : public testing::TestWithParam<NameCase> {};
+class HtmlNames : public testing::TestWithParam<HtmlNameCase> {};
 
 TEST_P(HtmlNames, AreBuiltAndMayEmptyASeparator) {
     QString first = QStringLiteral("-");
@@ -27,16 +27,16 @@ TEST_P(HtmlNames, AreBuiltAndMayEmptyASeparator) {
 
 INSTANTIATE_TEST_SUITE_P(
     Orders, HtmlNames,
-    testing::Values(NameCase{"S1", 0, "K-C.htm", "-", "_"}, NameCase{"S1", 1, "C-K.htm", "-", "_"},
-                    NameCase{"S1", 2, "S1-K_C.htm", "-", "_"}, NameCase{"S1", 3, "S1-C_K.htm", "-", "_"},
-                    NameCase{"S1", 4, "K-C_S1.htm", "-", "_"}, NameCase{"S1", 5, "C-K_S1.htm", "-", "_"},
-                    NameCase{"S1", 6, "K-S1_C.htm", "-", "_"}, NameCase{"S1", 7, "C-S1_K.htm", "-", "_"},
-                    NameCase{"", 0, "K-C.htm", "-", "_"}, NameCase{"", 1, "C-K.htm", "-", "_"},
-                    NameCase{"", 2, "K_C.htm", "", "_"}, NameCase{"", 3, "C_K.htm", "", "_"},
-                    NameCase{"", 4, "K-C.htm", "-", ""}, NameCase{"", 5, "C-K.htm", "-", ""},
-                    NameCase{"", 6, "K-C.htm", "-", ""}, NameCase{"", 7, "C-K.htm", "-", ""},
-                    NameCase{"S1", 8, "as it was", "-", "_"}, NameCase{"S1", -1, "as it was", "-", "_"},
-                    NameCase{"", 8, "as it was", "-", ""}, NameCase{"", -1, "as it was", "-", "_"}));
+    testing::Values(HtmlNameCase{"S1", 0, "K-C.htm", "-", "_"}, HtmlNameCase{"S1", 1, "C-K.htm", "-", "_"},
+                    HtmlNameCase{"S1", 2, "S1-K_C.htm", "-", "_"}, HtmlNameCase{"S1", 3, "S1-C_K.htm", "-", "_"},
+                    HtmlNameCase{"S1", 4, "K-C_S1.htm", "-", "_"}, HtmlNameCase{"S1", 5, "C-K_S1.htm", "-", "_"},
+                    HtmlNameCase{"S1", 6, "K-S1_C.htm", "-", "_"}, HtmlNameCase{"S1", 7, "C-S1_K.htm", "-", "_"},
+                    HtmlNameCase{"", 0, "K-C.htm", "-", "_"}, HtmlNameCase{"", 1, "C-K.htm", "-", "_"},
+                    HtmlNameCase{"", 2, "K_C.htm", "", "_"}, HtmlNameCase{"", 3, "C_K.htm", "", "_"},
+                    HtmlNameCase{"", 4, "K-C.htm", "-", ""}, HtmlNameCase{"", 5, "C-K.htm", "-", ""},
+                    HtmlNameCase{"", 6, "K-C.htm", "-", ""}, HtmlNameCase{"", 7, "C-K.htm", "-", ""},
+                    HtmlNameCase{"S1", 8, "as it was", "-", "_"}, HtmlNameCase{"S1", -1, "as it was", "-", "_"},
+                    HtmlNameCase{"", 8, "as it was", "-", ""}, HtmlNameCase{"", -1, "as it was", "-", "_"}));
 
 TEST(HtmlOrders, AreEightTexts) {
     EXPECT_EQ(

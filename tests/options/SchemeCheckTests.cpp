@@ -1,14 +1,11 @@
 #include "options/SchemeCheck.h"
+#include "tests/options/SchemePairs.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using Pairs = std::vector<SchemePair>;
-
-SchemePair Pair(const char* symbol, const char* value) {
-    return {QString::fromUtf8(symbol), QString::fromUtf8(value)};
-}
 
 struct CheckCase {
     const char* Name;

@@ -1,4 +1,5 @@
 #include "options/SchemeFile.h"
+#include "tests/options/SchemePairs.h"
 #include "tests/support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -11,10 +12,6 @@ QByteArray PairLines(int count) {
         lines += "\"s" + QByteArray::number(p) + "\",\"" + QByteArray::number(p) + "\"\r\n";
     }
     return lines;
-}
-
-SchemePair Pair(const char* symbol, const char* value) {
-    return {QString::fromUtf8(symbol), QString::fromUtf8(value)};
 }
 
 TEST(SchemeFile, ThreeLevelsBothWays) {

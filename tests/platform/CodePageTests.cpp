@@ -1,4 +1,5 @@
 #include "platform/CodePage.h"
+#include "tests/support/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -24,10 +25,6 @@ char16_t Expected(int byte) {
         }
     }
     return static_cast<char16_t>(byte);
-}
-
-QString Text(const char* utf8) {
-    return QString::fromUtf8(utf8);
 }
 
 } // namespace

@@ -2,15 +2,12 @@
 #include "platform/ProgramDrives.h"
 #include "tests/support/FaultyCalls.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Text.h"
 
 #include <cerrno>
 #include <gtest/gtest.h>
 
 namespace {
-
-QString Text(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 const DriveTable Default = {{u'c', "/"}};
 

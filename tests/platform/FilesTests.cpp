@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 #include "tests/support/FaultyCalls.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Text.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -15,10 +16,6 @@ using Kind = FaultyCalls::Kind;
 
 constexpr auto ReadOnly =
     std::filesystem::perms::owner_read | std::filesystem::perms::group_read | std::filesystem::perms::others_read;
-
-QString Text(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 // A file, a folder and, where a test can make them, a pipe and links to each, and the number that reading each of them
 // gives.

@@ -1,13 +1,10 @@
 #include "platform/CodePage.h"
 #include "platform/ItemText.h"
+#include "tests/support/Text.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-QString Text(const char* latin) {
-    return QString::fromLatin1(latin);
-}
 
 QStringList ItemsOf(const QByteArray& bytes, ItemError* error = nullptr) {
     ItemReader reader(bytes);
@@ -32,36 +29,36 @@ TEST(ItemReader, TakesItemsApart) {
         QStringList Items;
     } cases[] = {
         {"", {}},
-        {"\r\n", {Text("")}},
-        {"a", {Text("a")}},
-        {"a\r\nb", {Text("a"), Text("b")}},
-        {"a\r\nb\r\n", {Text("a"), Text("b")}},
-        {"a\nb\n", {Text("a"), Text("b")}},
-        {"a\rb\r", {Text("a"), Text("b")}},
-        {"a\r\rb", {Text("a"), Text(""), Text("b")}},
-        {"a\n\rb", {Text("a"), Text(""), Text("b")}},
-        {"a\r\n\r\nb", {Text("a"), Text(""), Text("b")}},
-        {"a\rb\nc\r\nd", {Text("a"), Text("b"), Text("c"), Text("d")}},
-        {"a,b", {Text("a"), Text("b")}},
-        {"a,b,\r\nc", {Text("a"), Text("b"), Text(""), Text("c")}},
-        {"a,", {Text("a"), Text("")}},
-        {",", {Text(""), Text("")}},
-        {",,\r\n", {Text(""), Text(""), Text("")}},
-        {" a b ", {Text(" a b ")}},
-        {"a , b", {Text("a "), Text(" b")}},
-        {"\"\"", {Text("")}},
-        {"\"\"\r\n\"\"\r\n", {Text(""), Text("")}},
-        {"\"a\"", {Text("a")}},
-        {"\"a,b\",c", {Text("a,b"), Text("c")}},
-        {"\" a \"", {Text(" a ")}},
-        {"  \"a\"  ,b", {Text("a"), Text("b")}},
-        {"\"a\"dropped,b", {Text("a"), Text("b")}},
-        {"\"a\"\"b\",c", {Text("a"), Text("c")}},
-        {"\"a\",1,\"b\",-2\r\n\"c\"", {Text("a"), Text("1"), Text("b"), Text("-2"), Text("c")}},
-        {"a\"b,c", {Text("a\"b"), Text("c")}},
-        {"a\"b,c\"", {Text("a\"b"), Text("c\"")}},
-        {"\t\"a\"", {Text("\t\"a\"")}},
-        {QByteArray("a\0b,c", 5), {QString::fromLatin1("a\0b", 3), Text("c")}},
+        {"\r\n", {Latin("")}},
+        {"a", {Latin("a")}},
+        {"a\r\nb", {Latin("a"), Latin("b")}},
+        {"a\r\nb\r\n", {Latin("a"), Latin("b")}},
+        {"a\nb\n", {Latin("a"), Latin("b")}},
+        {"a\rb\r", {Latin("a"), Latin("b")}},
+        {"a\r\rb", {Latin("a"), Latin(""), Latin("b")}},
+        {"a\n\rb", {Latin("a"), Latin(""), Latin("b")}},
+        {"a\r\n\r\nb", {Latin("a"), Latin(""), Latin("b")}},
+        {"a\rb\nc\r\nd", {Latin("a"), Latin("b"), Latin("c"), Latin("d")}},
+        {"a,b", {Latin("a"), Latin("b")}},
+        {"a,b,\r\nc", {Latin("a"), Latin("b"), Latin(""), Latin("c")}},
+        {"a,", {Latin("a"), Latin("")}},
+        {",", {Latin(""), Latin("")}},
+        {",,\r\n", {Latin(""), Latin(""), Latin("")}},
+        {" a b ", {Latin(" a b ")}},
+        {"a , b", {Latin("a "), Latin(" b")}},
+        {"\"\"", {Latin("")}},
+        {"\"\"\r\n\"\"\r\n", {Latin(""), Latin("")}},
+        {"\"a\"", {Latin("a")}},
+        {"\"a,b\",c", {Latin("a,b"), Latin("c")}},
+        {"\" a \"", {Latin(" a ")}},
+        {"  \"a\"  ,b", {Latin("a"), Latin("b")}},
+        {"\"a\"dropped,b", {Latin("a"), Latin("b")}},
+        {"\"a\"\"b\",c", {Latin("a"), Latin("c")}},
+        {"\"a\",1,\"b\",-2\r\n\"c\"", {Latin("a"), Latin("1"), Latin("b"), Latin("-2"), Latin("c")}},
+        {"a\"b,c", {Latin("a\"b"), Latin("c")}},
+        {"a\"b,c\"", {Latin("a\"b"), Latin("c\"")}},
+        {"\t\"a\"", {Latin("\t\"a\"")}},
+        {QByteArray("a\0b,c", 5), {QString::fromLatin1("a\0b", 3), Latin("c")}},
         {"\xEF\xBB\xBF"
          "a",
          {TextFromBytes("\xEF\xBB\xBF"
@@ -114,9 +111,9 @@ TEST(ItemReader, TheEndOfTheFileIsNumber62InTheLineAfterTheLast) {
         ItemReader reader(row.Bytes);
         EXPECT_TRUE(reader.Skip(row.Items)) << row.Bytes.toStdString();
         EXPECT_TRUE(reader.AtEnd()) << row.Bytes.toStdString();
-        QString value = Text("kept");
+        QString value = Latin("kept");
         EXPECT_FALSE(reader.ReadText(value)) << row.Bytes.toStdString();
-        EXPECT_EQ(value, Text("kept"));
+        EXPECT_EQ(value, Latin("kept"));
         EXPECT_EQ(reader.Error().Error.Number, 62) << row.Bytes.toStdString();
         EXPECT_EQ(reader.Error().Line, row.Line) << row.Bytes.toStdString();
     }
@@ -167,7 +164,7 @@ TEST(ParseNumber, TakesDecimalNumbersOf16BitsOnly) {
                 {"-0", 0},  {"  -12  ", -12}, {"+32767", 32767}, {"0000000000000000000000032767", 32767}};
     for (const auto& row : good) {
         std::int16_t value = 99;
-        EXPECT_FALSE(ParseNumber(Text(row.Text), value)) << row.Text;
+        EXPECT_FALSE(ParseNumber(Latin(row.Text), value)) << row.Text;
         EXPECT_EQ(value, row.Value) << row.Text;
     }
     const struct {
@@ -205,7 +202,7 @@ TEST(ParseNumber, TakesDecimalNumbersOf16BitsOnly) {
                {"99999999999999x", 13}};
     for (const auto& row : bad) {
         std::int16_t value = 99;
-        EXPECT_EQ(ParseNumber(Text(row.Text), value).Number, row.Number) << row.Text;
+        EXPECT_EQ(ParseNumber(Latin(row.Text), value).Number, row.Number) << row.Text;
         EXPECT_EQ(value, 99) << row.Text;
     }
     std::int16_t value = 99;
@@ -214,14 +211,14 @@ TEST(ParseNumber, TakesDecimalNumbersOf16BitsOnly) {
 
 TEST(ItemWriter, WritesBothLineForms) {
     ItemWriter writer;
-    writer.PlainLine(Text("[Title]"));
+    writer.PlainLine(Latin("[Title]"));
     writer.PlainLine(QString());
     writer.PlainNumber(0);
     writer.PlainNumber(6);
     writer.PlainNumber(-1);
     writer.PlainNumber(-32768);
     writer.Separator();
-    writer.QuotedLine({Text("a,b"), std::int16_t{-5}, QString(), std::int16_t{0}});
+    writer.QuotedLine({Latin("a,b"), std::int16_t{-5}, QString(), std::int16_t{0}});
     writer.QuotedLine({std::int16_t{32767}});
     EXPECT_EQ(writer.Bytes(), QByteArray("[Title]\r\n\r\n 0 \r\n 6 \r\n-1 \r\n-32768 \r\n\"\"\r\n"
                                          "\"a,b\",-5,\"\",0\r\n32767\r\n"));
@@ -242,8 +239,8 @@ TEST(ItemWriter, WritesEveryByteAndAQuestionMarkForTheRest) {
 
 TEST(ItemWriter, WhatItWritesIsReadBack) {
     ItemWriter writer;
-    writer.QuotedLine({Text(" a, b "), std::int16_t{-12}});
-    writer.PlainLine(Text("plain text"));
+    writer.QuotedLine({Latin(" a, b "), std::int16_t{-12}});
+    writer.PlainLine(Latin("plain text"));
     writer.PlainNumber(42);
     ItemReader reader(writer.Bytes());
     QString quoted;
@@ -253,8 +250,8 @@ TEST(ItemWriter, WhatItWritesIsReadBack) {
     EXPECT_TRUE(reader.ReadText(quoted) && reader.ReadNumber(first) && reader.ReadText(plain) &&
                 reader.ReadNumber(second));
     EXPECT_TRUE(reader.AtEnd());
-    EXPECT_EQ(quoted, Text(" a, b "));
-    EXPECT_EQ(plain, Text("plain text"));
+    EXPECT_EQ(quoted, Latin(" a, b "));
+    EXPECT_EQ(plain, Latin("plain text"));
     EXPECT_EQ(first, -12);
     EXPECT_EQ(second, 42);
 }

@@ -1,6 +1,7 @@
 #include "platform/MappedVolumes.h"
 #include "tests/support/FaultyCalls.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Text.h"
 
 #include <cerrno>
 #include <gtest/gtest.h>
@@ -9,10 +10,6 @@
 namespace {
 
 using Kind = FaultyCalls::Kind;
-
-QString Text(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 // Drives that only text work is asked of.
 MappedVolumes Table() {

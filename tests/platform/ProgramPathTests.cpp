@@ -1,14 +1,7 @@
 #include "platform/ProgramPath.h"
+#include "tests/support/Text.h"
 
 #include <gtest/gtest.h>
-
-namespace {
-
-QString Text(const char* latin) {
-    return QString::fromLatin1(latin);
-}
-
-} // namespace
 
 TEST(ProgramPath, TakesPathsApart) {
     const struct {
@@ -35,10 +28,10 @@ TEST(ProgramPath, TakesPathsApart) {
         {"Z:\\a b\\c.d", "z:", "Z:\\a b", "c.d", "Z:\\a b\\c.d"},
     };
     for (const auto& row : cases) {
-        EXPECT_EQ(DriveOf(Text(row.Path)), Text(row.Drive)) << row.Path;
-        EXPECT_EQ(FolderOf(Text(row.Path)), Text(row.Folder)) << row.Path;
-        EXPECT_EQ(NameOf(Text(row.Path)), Text(row.Name)) << row.Path;
-        EXPECT_EQ(WithoutTrailingBackslash(Text(row.Path)), Text(row.WithoutBackslash)) << row.Path;
+        EXPECT_EQ(DriveOf(Latin(row.Path)), Latin(row.Drive)) << row.Path;
+        EXPECT_EQ(FolderOf(Latin(row.Path)), Latin(row.Folder)) << row.Path;
+        EXPECT_EQ(NameOf(Latin(row.Path)), Latin(row.Name)) << row.Path;
+        EXPECT_EQ(WithoutTrailingBackslash(Latin(row.Path)), Latin(row.WithoutBackslash)) << row.Path;
     }
 }
 
@@ -48,6 +41,6 @@ TEST(ProgramPath, JoinsWithOneBackslash) {
         const char* Joined;
     } cases[] = {{"c:", "c:\\x.cfg"}, {"c:\\", "c:\\x.cfg"}, {"c:\\a", "c:\\a\\x.cfg"}, {"c:\\a\\", "c:\\a\\x.cfg"}};
     for (const auto& row : cases) {
-        EXPECT_EQ(JoinPath(Text(row.Folder), Text("x.cfg")), Text(row.Joined)) << row.Folder;
+        EXPECT_EQ(JoinPath(Latin(row.Folder), Latin("x.cfg")), Latin(row.Joined)) << row.Folder;
     }
 }

@@ -10,7 +10,7 @@ namespace {
 
 using Kind = FaultyCalls::Kind;
 
-const QString Target = QStringLiteral("c:\\x.cfg");
+const QString SavedFile = QStringLiteral("c:\\x.cfg");
 
 } // namespace
 
@@ -23,8 +23,8 @@ TEST(SafeWriter, SavesEveryByteAndEverySize) {
     const QByteArray cases[] = {
         {}, "x", everyByte, QByteArray(65536, 'a'), QByteArray(65537, 'b'), QByteArray(300000, 'c')};
     for (const QByteArray& bytes : cases) {
-        EXPECT_FALSE(SafeSave(RealSystemCalls(), folder.Native(Target), bytes)) << bytes.size();
-        EXPECT_EQ(folder.Read(Target), bytes);
+        EXPECT_FALSE(SafeSave(RealSystemCalls(), folder.Native(SavedFile), bytes)) << bytes.size();
+        EXPECT_EQ(folder.Read(SavedFile), bytes);
         EXPECT_EQ(folder.Names(QStringLiteral("c:\\")), QStringList{QStringLiteral("x.cfg")});
     }
 }
@@ -56,7 +56,7 @@ TEST(SafeWriter, SavesANameInTheWorkingFolder) {
     EXPECT_FALSE(SafeSave(RealSystemCalls(), "x.cfg", "new"));
     EXPECT_FALSE(SafeSave(RealSystemCalls(), "x.cfg", "newer"));
     std::filesystem::current_path(before);
-    EXPECT_EQ(folder.Read(Target), "newer");
+    EXPECT_EQ(folder.Read(SavedFile), "newer");
     EXPECT_EQ(folder.Names(QStringLiteral("c:\\")), QStringList{QStringLiteral("x.cfg")});
 }
 
@@ -70,7 +70,7 @@ TEST(SafeWriter, SavesANameThatIsNearlyTooLong) {
 
 TEST(SafeWriter, RemovesTheTemporaryFilesOfDeadRunsOfThisTargetOnly) {
     TestFolder folder;
-    folder.Write(Target, "old");
+    folder.Write(SavedFile, "old");
     FaultyCalls calls;
     calls.Number = 50;
     calls.AliveRuns = [](std::int64_t number) { return number == 60; };
@@ -83,7 +83,7 @@ TEST(SafeWriter, RemovesTheTemporaryFilesOfDeadRunsOfThisTargetOnly) {
     for (const QString& name : kept + removed) {
         folder.Write(QStringLiteral("c:\\") + name, "left behind");
     }
-    EXPECT_FALSE(SafeSave(calls, folder.Native(Target), "new"));
+    EXPECT_FALSE(SafeSave(calls, folder.Native(SavedFile), "new"));
     QStringList expected = kept + QStringList{QStringLiteral("x.cfg")};
     expected.sort();
     EXPECT_EQ(folder.Names(QStringLiteral("c:\\")), expected);
@@ -95,15 +95,15 @@ TEST(SafeWriter, AnUnreadableFolderStillLosesThisRunsOwnTemporaryFile) {
     FaultyCalls calls;
     calls.Number = 50;
     calls.FailAll(Kind::ListNames, EACCES);
-    EXPECT_FALSE(SafeSave(calls, folder.Native(Target), "new"));
+    EXPECT_FALSE(SafeSave(calls, folder.Native(SavedFile), "new"));
     EXPECT_EQ(folder.Names(QStringLiteral("c:\\")), QStringList{QStringLiteral("x.cfg")});
 }
 
 TEST(SafeWriter, SyncsTheFileBeforeTheMoveAndTheFolderAfterIt) {
     TestFolder folder;
-    folder.Write(Target, "old");
+    folder.Write(SavedFile, "old");
     FaultyCalls calls;
-    EXPECT_FALSE(SafeSave(calls, folder.Native(Target), "new"));
+    EXPECT_FALSE(SafeSave(calls, folder.Native(SavedFile), "new"));
     std::vector<Kind> order;
     for (const Kind kind : calls.Made) {
         if (kind == Kind::Write || kind == Kind::SetMode || kind == Kind::Sync || kind == Kind::Replace ||

@@ -1,15 +1,8 @@
 #include "platform/MappedVolumes.h"
 #include "tests/support/PrintText.h"
+#include "tests/support/Text.h"
 
 #include <gtest/gtest.h>
-
-namespace {
-
-QString Text(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 TEST(Volumes, MakesPathsWhole) {
     MappedVolumes volumes(RealSystemCalls(), {{u'c', "/"}, {u'g', "/srv"}, {u'x', "/mnt"}});

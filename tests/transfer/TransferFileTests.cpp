@@ -105,18 +105,18 @@ TEST(TransferFile, OlderLayout) {
     EXPECT_EQ(settings, (TransferSettings{0, QString(), 2, 16}));
 }
 
-struct NumberCase {
+struct FileNumberCase {
     const char* Field;
     int Value;       // what the file gives, when it can be read
     int ErrorNumber; // else
 };
 
 TEST(TransferFile, BoardType) {
-    const NumberCase cases[] = {{"0", 0, 0},    {"1", 1, 0},     {"2", 2, 0},           {"3", 3, 0},    {"4", 0, 0},
-                                {"7", 0, 0},    {"-1", -1, 0},   {"-32768", -32768, 0}, {" 2 ", 2, 0},  {"\"2\"", 2, 0},
-                                {"+1", 1, 0},   {"32767", 0, 0}, {"32768", 2, 6},       {"two", 2, 13}, {"", 2, 13},
-                                {"1.0", 2, 13}, {"\"\"", 2, 13}};
-    for (const NumberCase& row : cases) {
+    const FileNumberCase cases[] = {
+        {"0", 0, 0},     {"1", 1, 0},           {"2", 2, 0},   {"3", 3, 0},     {"4", 0, 0},    {"7", 0, 0},
+        {"-1", -1, 0},   {"-32768", -32768, 0}, {" 2 ", 2, 0}, {"\"2\"", 2, 0}, {"+1", 1, 0},   {"32767", 0, 0},
+        {"32768", 2, 6}, {"two", 2, 13},        {"", 2, 13},   {"1.0", 2, 13},  {"\"\"", 2, 13}};
+    for (const FileNumberCase& row : cases) {
         TransferSettings settings = Held();
         const ItemError error = ReadTransferText(FileWithLine(8, row.Field), settings);
         EXPECT_EQ(error.Error.Number, row.ErrorNumber) << row.Field;
@@ -127,10 +127,10 @@ TEST(TransferFile, BoardType) {
 }
 
 TEST(TransferFile, SystemNumber) {
-    const NumberCase cases[] = {{"1", 1, 0},      {"22", 22, 0},   {"10", 10, 0}, {"2", 2, 0},
-                                {"0", 1, 0},      {"23", 1, 0},    {"-5", 1, 0},  {"32767", 1, 0},
-                                {"32768", 22, 6}, {"ten", 22, 13}, {"", 22, 13}};
-    for (const NumberCase& row : cases) {
+    const FileNumberCase cases[] = {{"1", 1, 0},      {"22", 22, 0},   {"10", 10, 0}, {"2", 2, 0},
+                                    {"0", 1, 0},      {"23", 1, 0},    {"-5", 1, 0},  {"32767", 1, 0},
+                                    {"32768", 22, 6}, {"ten", 22, 13}, {"", 22, 13}};
+    for (const FileNumberCase& row : cases) {
         TransferSettings settings = Held();
         const ItemError error = ReadTransferText(FileWithLine(11, row.Field), settings);
         EXPECT_EQ(error.Error.Number, row.ErrorNumber) << row.Field;

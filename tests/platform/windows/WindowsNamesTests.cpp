@@ -1,16 +1,9 @@
 #include "platform/windows/NativeNames.h"
 #include "platform/windows/WindowsNames.h"
 #include "tests/support/PrintText.h"
+#include "tests/support/Text.h"
 
 #include <gtest/gtest.h>
-
-namespace {
-
-QString Text(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 TEST(WindowsNames, TakesPathsApartAndPutsThemTogether) {
     const struct {

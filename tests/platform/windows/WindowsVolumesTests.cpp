@@ -2,6 +2,7 @@
 #include "platform/windows/WindowsVolumes.h"
 #include "tests/support/FaultyCalls.h"
 #include "tests/support/TestFolder.h"
+#include "tests/support/Text.h"
 
 #include <QDir>
 #include <cerrno>
@@ -10,10 +11,6 @@
 namespace {
 
 using Kind = FaultyCalls::Kind;
-
-QString Text(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 // Another machine's drives; the folders are this one's.
 class OtherDisks : public WindowsDisks {
