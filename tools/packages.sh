@@ -8,8 +8,8 @@ SCREEN_PACKAGES="xvfb xauth openbox xdotool"
 CHECK_PACKAGES="clang-format-14 clang-tidy-14 python3"
 # The compiler of the fuzzers.
 FUZZ_PACKAGES="clang-14"
-# What finds the libraries that a .deb depends on.
-PACKAGE_PACKAGES="dpkg-dev"
+# What finds the libraries that a .deb depends on; it takes "file" to tell the programs among the files.
+PACKAGE_PACKAGES="dpkg-dev file"
 # Compiler, test library and packer of the Windows programs, and what runs them here (the 64-bit loader is enough).
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix googletest zip"
 WINE_PACKAGES="wine wine64 fonts-wine"
