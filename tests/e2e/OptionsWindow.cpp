@@ -49,29 +49,33 @@ void OptionsWindow::Press(const char* chord) {
     Program->Press(Title, Name(chord));
 }
 
-QString OptionsWindow::FocusedControl() {
-    return FocusOf(Program->AwaitWindow(Title));
+void OptionsWindow::TabTo(const char* control) {
+    TabTo(Title, control);
 }
 
-void OptionsWindow::TabTo(const char* control) {
+void OptionsWindow::TabTo(const QString& window, const char* control) {
     constexpr int moreThanThereAreControls = 60;
     for (int tabs = 0; tabs < moreThanThereAreControls; ++tabs) {
-        const QString before = FocusedControl();
+        const QString before = FocusOf(Program->AwaitWindow(window));
         if (before == Name(control)) {
             return;
         }
-        Press("Tab");
+        Program->Press(window, QStringLiteral("Tab"));
         Program->Await(QStringLiteral("the keyboard to leave ") + before, [&](const SeenScreen& screen) {
-            const SeenWindow* window = screen.Window(Title);
-            return window != nullptr && FocusOf(*window) != before;
+            const SeenWindow* seen = screen.Window(window);
+            return seen != nullptr && FocusOf(*seen) != before;
         });
     }
     FAIL() << control << " cannot be reached by Tab";
 }
 
 void OptionsWindow::Work(const char* control, const char* chord) {
-    TabTo(control);
-    Press(chord);
+    Work(Title, control, chord);
+}
+
+void OptionsWindow::Work(const QString& window, const char* control, const char* chord) {
+    TabTo(window, control);
+    Program->Press(window, Name(chord));
 }
 
 void OptionsWindow::AwaitText(const char* control, const char* text) {

@@ -25,10 +25,12 @@ protected:
 
     void Click(const char* control);
     void Press(const char* chord);
-    /// Presses Tab until the control has the keyboard.
+    /// Presses Tab until the control has the keyboard, in this window or in the one of that title.
     void TabTo(const char* control);
+    void TabTo(const QString& window, const char* control);
     /// TabTo and then a key.
     void Work(const char* control, const char* chord);
+    void Work(const QString& window, const char* control, const char* chord);
     void AwaitText(const char* control, const char* text);
     void AwaitChecked(const char* option);
     /// Shows a panel, by a click on its button or by Tab and the space bar.
@@ -41,7 +43,4 @@ protected:
     void ChooseFont(const QString& name);
     /// The window is gone, the menu is back, and both files hold the bytes.
     void ExpectSaved(const QByteArray& bytes);
-
-private:
-    QString FocusedControl();
 };

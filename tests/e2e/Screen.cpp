@@ -30,7 +30,10 @@ QString AskActive(const QStringList& question) {
     return QString::fromUtf8(asked.readAllStandardOutput()).trimmed();
 }
 
+int mouseMoves = 0;
+
 QStringList Move(const QPoint& place) {
+    ++mouseMoves;
     return {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())};
 }
 
@@ -61,6 +64,10 @@ void DragFromTo(const QPoint& from, const QPoint& to) {
     for (int step = 1; step <= Moves; ++step) {
         SendEvents(Move(to + QPoint(step % 2, 0)));
     }
+}
+
+int MouseMoves() {
+    return mouseMoves;
 }
 
 void PressKey(const QString& chord) {

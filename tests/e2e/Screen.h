@@ -12,6 +12,8 @@ void ClickAt(const QPoint& place);
 void DoubleClickAt(const QPoint& place);
 /// Presses the left button at one place and releases it at another, with moves between.
 void DragFromTo(const QPoint& from, const QPoint& to);
+/// How many times the mouse was moved so far: a test without the mouse sees none.
+int MouseMoves();
 /// Presses a key or chord, such as "Tab", "alt+x" or "shift+Tab".
 void PressKey(const QString& chord);
 /// Types characters of the basic Latin alphabet.
