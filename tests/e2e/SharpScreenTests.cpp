@@ -1,5 +1,4 @@
-#include "tests/e2e/InstalledProgram.h"
-#include "tests/e2e/RunningProgram.h"
+#include "tests/e2e/MenuSteps.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +9,7 @@ TEST(SharpScreen, TogglesTheLockByMouseAtDoubleSize) {
     installed.Write(QStringLiteral("GW_v12_PRG.CFG"), Golden(QStringLiteral("start.cfg")));
     RunningProgram program(installed.Folder(), installed.Edition.Executable, {QStringLiteral("QT_SCALE_FACTOR=2")});
     const QString menu = installed.Edition.MenuTitle;
-    program.Press(installed.Edition.PrinterTitle, QStringLiteral("Return"));
+    AnswerPrinterMessage(program, installed);
     EXPECT_GE(program.AwaitWindow(menu).Place.width(), 1600) << "800 logical pixels, doubled";
     program.Click(menu, QStringLiteral("imgUnlocked"));
     program.AwaitText(menu, QStringLiteral("lblLocked"), QStringLiteral("Locked"));

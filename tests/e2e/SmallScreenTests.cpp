@@ -1,5 +1,4 @@
-#include "tests/e2e/InstalledProgram.h"
-#include "tests/e2e/RunningProgram.h"
+#include "tests/e2e/MenuSteps.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +20,7 @@ TEST(SmallScreen, GoesOnWithTheMenuOnCancel) {
     const InstalledProgram installed(EnglishNames());
     RunningProgram program(installed.Folder(), installed.Edition.Executable);
     program.Click(ScreenMessage, QStringLiteral("Cancel"));
-    program.Press(installed.Edition.PrinterTitle, QStringLiteral("Return"));
+    AnswerPrinterMessage(program, installed);
     program.Press(installed.Edition.MenuTitle, installed.Edition.ExitKeys);
     EXPECT_EQ(program.AwaitEnd(), 0);
     EXPECT_TRUE(installed.Exists(QStringLiteral("GW_v12_PRG.CFG")));
