@@ -1,8 +1,8 @@
 #include "platform/qt/HelperPrograms.h"
 
+#ifndef Q_OS_WIN
 #include <QProcess>
 
-#ifndef Q_OS_WIN
 namespace {
 
 // EDITOR's words, its program found; empty when it is not there. As everywhere, EDITOR may hold arguments, double
@@ -41,15 +41,4 @@ HelperCommand CommandFor(HelperProgram program, const QString& nativePath,
     }
     return {};
 #endif
-}
-
-bool Start(const HelperCommand& command) {
-    QProcess process;
-    process.setProgram(command.Program);
-#ifdef Q_OS_WIN
-    process.setNativeArguments(command.Line);
-#else
-    process.setArguments(command.Arguments);
-#endif
-    return !command.Program.isEmpty() && process.startDetached();
 }

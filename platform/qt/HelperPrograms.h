@@ -25,6 +25,3 @@ struct HelperSurroundings {
 /// Where the system has no program of its own for it (not Windows): the desktop's opener; for text also $EDITOR in a
 /// terminal, the only way to a file that does not exist yet.
 HelperCommand CommandFor(HelperProgram program, const QString& nativePath, const HelperSurroundings& surroundings);
-
-/// Starts the command and does not wait for its end; false when there is none or it cannot be started.
-bool Start(const HelperCommand& command);

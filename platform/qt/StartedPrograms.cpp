@@ -10,7 +10,10 @@
 #ifdef Q_OS_WIN
 
 bool StartWatched(const HelperCommand& command, std::function<void()>) {
-    return Start(command);
+    QProcess process;
+    process.setProgram(command.Program);
+    process.setNativeArguments(command.Line);
+    return process.startDetached();
 }
 
 #else
