@@ -9,12 +9,14 @@
 #include "platform/widgets/Captions.h"
 #include "platform/widgets/Pictures.h"
 #include "platform/widgets/ProgramStyle.h"
+#include "platform/widgets/ScreenFit.h"
 
 #include <QCloseEvent>
 #include <QVBoxLayout>
 
 namespace {
 
+constexpr QSize WindowSize(MenuLayout::WindowWidth, MenuLayout::WindowHeight);
 constexpr char BuildDate[] = "2015 12 07";
 constexpr char ManualName[] = "\\Manuals\\Gradewell Config.PDF";
 
@@ -95,7 +97,7 @@ void frmMaster_SU::ConnectControls() {
 }
 
 bool frmMaster_SU::Form_Load(Edition edition, const QString& programFolder) {
-    resize(MenuLayout::WindowWidth, MenuLayout::WindowHeight);
+    resize(OpeningSize(WindowSize));
     const bool goesOn = edition == Edition::French ? SpeakFrench_Main() : SpeakEnglish_Main();
     if (!goesOn) {
         return false;
@@ -246,6 +248,9 @@ void frmMaster_SU::lblLocked_Click() {
 void frmMaster_SU::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (!event->spontaneous()) {
+        if (OpeningSize(WindowSize) != WindowSize) {
+            FitToScreen(*this, WindowSize);
+        }
         Form_Activate();
     }
 }

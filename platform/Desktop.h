@@ -78,6 +78,8 @@ public:
 
     /// The screen's size in logical pixels.
     virtual QSize ScreenSize() = 0;
+    /// The largest inside of a window that can be seen whole: the screen less its bars and a window's frame.
+    virtual QSize RoomForWindow() { return ScreenSize(); }
     /// Sets the default printer's font; false when there is no printer or it cannot use the font.
     virtual bool SetPrinterFont(const QString& fontName) = 0;
     /// Lets everything that is pending happen, what the user has pressed included.

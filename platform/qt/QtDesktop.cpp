@@ -20,6 +20,7 @@
 #include <QPrinterInfo>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QStyle>
 
 namespace {
 
@@ -77,6 +78,19 @@ MessageAnswer AnswerOf(int button) {
 QWidget* Owner() {
     QWidget* modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
+// What a frame takes: that of a window which has one already, or else a usual one's.
+QSize FrameSize() {
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        const QSize frame = window->frameGeometry().size() - window->size();
+        if (window->isVisible() && window->isWindow() && frame.height() > 0) {
+            return frame;
+        }
+    }
+    const QStyle* style = QApplication::style();
+    const int edge = style->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    return {2 * edge, 2 * edge + style->pixelMetric(QStyle::PM_TitleBarHeight)};
 }
 
 // A message box reads rich text where a text looks like it; names of files may hold anything.
@@ -182,6 +196,11 @@ SystemError QtDesktop::StartProgram(HelperProgram program, const QString& path, 
 QSize QtDesktop::ScreenSize() {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen != nullptr ? screen->size() : QSize();
+}
+
+QSize QtDesktop::RoomForWindow() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? screen->availableSize() - FrameSize() : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 
 bool QtDesktop::SetPrinterFont(const QString& fontName) {

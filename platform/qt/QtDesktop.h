@@ -19,6 +19,7 @@ public:
     FontDialogAnswer AskForFont(const QString& fontName, int pointSize) override;
     SystemError StartProgram(HelperProgram program, const QString& path, std::function<void()> whenFailed) override;
     QSize ScreenSize() override;
+    QSize RoomForWindow() override;
     bool SetPrinterFont(const QString& fontName) override;
     void ProcessPendingEvents() override;
     void PaintPendingWindows() override;

@@ -14,7 +14,7 @@ constexpr QSize WindowSize(800, 600); // logical pixels
 OptionsWindow::OptionsWindow(const char* name, QWidget* parent) : QDialog(parent) {
     setObjectName(QString::fromUtf8(name));
     setModal(true);
-    resize(WindowSize);
+    resize(OpeningSize(WindowSize));
 }
 
 void OptionsWindow::showEvent(QShowEvent* event) {

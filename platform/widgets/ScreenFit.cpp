@@ -3,6 +3,7 @@
 #include "platform/Desktop.h"
 
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <QWidget>
 #include <algorithm>
@@ -35,18 +36,24 @@ QScrollArea* ScrollContents(QWidget& window) {
 
 } // namespace
 
+QSize OpeningSize(const QSize& usual) {
+    return usual.boundedTo(TheDesktop().RoomForWindow());
+}
+
 void FitToScreen(QWidget& window, const QSize& usual) {
     auto* scroller = window.findChild<QScrollArea*>(ScrollerName);
     const QLayout* layout = scroller != nullptr ? scroller->widget()->layout() : window.layout();
-    const QSize least = LeastSize(*layout, usual);
-    const QSize screen = TheDesktop().ScreenSize().expandedTo(usual);
-    if (scroller == nullptr && least.expandedTo(screen) == screen) {
+    const QSize room = TheDesktop().RoomForWindow();
+    const QSize opened = OpeningSize(usual);
+    const QSize least = LeastSize(*layout, opened);
+    if (scroller == nullptr && least.expandedTo(room) == room) {
         window.setMinimumSize(least);
         return;
     }
     if (scroller == nullptr) {
         scroller = ScrollContents(window);
     }
-    scroller->widget()->setMinimumSize(least);
-    window.setMinimumSize(usual);
+    const int bar = scroller->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, scroller);
+    scroller->widget()->setMinimumSize(LeastSize(*layout, opened - QSize(bar, 0)));
+    window.setMinimumSize(opened);
 }

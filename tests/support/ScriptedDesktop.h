@@ -50,6 +50,7 @@ public:
 
     // What the machine is like.
     QSize Screen{1280, 800};
+    QSize WindowFrame{0, 0};
     bool HasPrinter = true;
     SystemError StartFailure;
     QDateTime Clock{QDate(2016, 3, 7), QTime(9, 30)};
@@ -58,6 +59,7 @@ public:
     FontDialogAnswer AskForFont(const QString& fontName, int pointSize) override;
     SystemError StartProgram(HelperProgram program, const QString& path, std::function<void()> whenFailed) override;
     QSize ScreenSize() override { return Screen; }
+    QSize RoomForWindow() override { return Screen - WindowFrame; }
     bool SetPrinterFont(const QString& fontName) override;
     void ProcessPendingEvents() override;
     void PaintPendingWindows() override;
