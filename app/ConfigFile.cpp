@@ -2,6 +2,7 @@
 
 #include "app/DamagedFile.h"
 #include "app/ProductTexts.h"
+#include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "platform/ProgramPath.h"
 
@@ -28,15 +29,17 @@ SystemError CopyDamaged(const QString& name) {
     return error;
 }
 
-bool SaveOneFile(const QString& name, const QByteArray& bytes) {
+SystemError SaveOneFile(const QString& name, const QByteArray& bytes) {
     SystemError error = CopyDamaged(name);
+    return error ? error : SaveWholeFile(JoinPath(ProgramFolder, name), bytes);
+}
+
+SystemError SaveNewer(const QByteArray& bytes) {
+    SystemError error = SaveOneFile(QString::fromUtf16(NewerConfigFile), bytes);
     if (!error) {
-        error = SaveWholeFile(JoinPath(ProgramFolder, name), bytes);
+        DeleteWholeFile(JoinPath(ProgramFolder, QString::fromUtf16(PathFile))); // it is mostly not there
     }
-    if (error) {
-        ReportFailedSave(name, error);
-    }
-    return !error;
+    return error;
 }
 
 } // namespace
@@ -64,8 +67,18 @@ void ReadProgramConfig() {
 
 void SaveProgramConfig() {
     const QByteArray bytes = WriteConfigText(ProgramConfig, TitleLine);
-    SaveOneFile(QString::fromUtf16(OlderConfigFile), bytes);
-    if (SaveOneFile(QString::fromUtf16(NewerConfigFile), bytes)) {
-        DeleteWholeFile(JoinPath(ProgramFolder, QString::fromUtf16(PathFile))); // it is mostly not there
+    const QString older = QString::fromUtf16(OlderConfigFile);
+    SystemError olderError;
+    SystemError newerError;
+    TheDesktop().RunSave([&] {
+        olderError = SaveOneFile(older, bytes);
+        newerError = olderError ? SystemError() : SaveNewer(bytes);
+    });
+    if (olderError) { // said before the newer file is touched
+        ReportFailedSave(older, olderError);
+        newerError = RunSave([&] { return SaveNewer(bytes); });
+    }
+    if (newerError) {
+        ReportFailedSave(QString::fromUtf16(NewerConfigFile), newerError);
     }
 }

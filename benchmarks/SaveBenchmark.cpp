@@ -7,9 +7,9 @@
 #include "platform/ProgramDrives.h"
 #include "platform/qt/QtDesktop.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QGuiApplication>
 #include <cstdio>
 #include <cstdlib>
 
@@ -72,7 +72,7 @@ double Milliseconds(const Action& action) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     SystemCalls& calls = RealSystemCalls();
     const NativePath folder(argv[1]);
     ProgramDrives drives = OpenProgramDrives(calls, folder);

@@ -1,5 +1,6 @@
 #include "import/UpdFieldFile.h"
 
+#include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "platform/RandomAccessFile.h"
 
@@ -33,7 +34,7 @@ SetupBytes ReadSetupBytes(const QString& setupFile) {
 
 SystemError SaveUpdFieldCFG(const QString& importPath, const QString& setupFileName, const ImportSetup& setup) {
     const QString target = SetupFileBeside(importPath, setupFileName);
-    return target.isEmpty() ? SystemError() : SaveWholeFile(target, WriteSetup(setup));
+    return target.isEmpty() ? SystemError() : RunSave([&] { return SaveWholeFile(target, WriteSetup(setup)); });
 }
 
 SetupReading TakeSetupBytes(const SetupBytes& bytes, const FieldList& fields, ImportSetup& setup) {
@@ -47,6 +48,6 @@ SetupReading TakeSetupBytes(const SetupBytes& bytes, const FieldList& fields, Im
 void DeleteUpdFieldCFG(const QString& importPath, const QString& setupFileName) {
     const QString target = SetupFileBeside(importPath, setupFileName);
     if (!target.isEmpty()) {
-        DeleteWholeFile(target);
+        RunSave([&] { return DeleteWholeFile(target); });
     }
 }

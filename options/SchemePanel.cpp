@@ -203,7 +203,7 @@ void SchemePanel::cmdSaveScheme_Click() {
         return;
     }
     const Scheme scheme{txtABCHeading->text(), fields->Pairs(Highest())};
-    const SystemError failure = SaveWholeFile(answer.FileName, WriteSchemeText(scheme));
+    const SystemError failure = RunSave([&] { return SaveWholeFile(answer.FileName, WriteSchemeText(scheme)); });
     if (failure) {
         ReportSaveError(answer.FileName, failure);
         return;

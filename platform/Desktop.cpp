@@ -26,6 +26,16 @@ MessageAnswer Desktop::ShowMessage(const Message& message) {
     return answer;
 }
 
+void Desktop::RunSave(const std::function<void()>& save) {
+    save();
+}
+
+SystemError RunSave(const std::function<SystemError()>& save) {
+    SystemError error;
+    TheDesktop().RunSave([&] { error = save(); });
+    return error;
+}
+
 void ShowNotice(MessageIcon icon, const QString& title, const QString& text) {
     TheDesktop().ShowMessage({title, text, MessageButtons::Ok, icon});
 }

@@ -86,6 +86,9 @@ public:
     virtual void ProcessPendingEvents() = 0;
     /// Lets the windows paint. What the user has pressed meanwhile waits until the action at hand is done.
     virtual void PaintPendingWindows() = 0;
+    /// Runs a save and returns at its end. A thread of its own may run it, so that the windows can show a save that
+    /// takes long; so it shows nothing itself. What the user presses meanwhile waits, as at PaintPendingWindows.
+    virtual void RunSave(const std::function<void()>& save);
     virtual QDateTime Now() = 0;
 
     virtual Volumes& TheVolumes() = 0;
@@ -101,6 +104,9 @@ Desktop& TheDesktop();
 
 /// Installs a desktop and returns the one before (null at first); the caller keeps ownership.
 Desktop* InstallDesktop(Desktop* desktop);
+
+/// Runs a save that gives an error, or none, by RunSave.
+SystemError RunSave(const std::function<SystemError()>& save);
 
 /// A message box with an OK button only.
 void ShowNotice(MessageIcon icon, const QString& title, const QString& text);

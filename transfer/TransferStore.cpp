@@ -2,6 +2,7 @@
 
 #include "app/DamagedFile.h"
 #include "app/ProductTexts.h"
+#include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "platform/ProgramPath.h"
 
@@ -34,7 +35,9 @@ bool LoadTransferFile(const QString& name, TransferSettings& settings) {
     return !failed;
 }
 
-SystemError SaveTransferFile(const QString& name, const TransferSettings& settings, const QString& systemName) {
+namespace {
+
+SystemError SaveSettings(const QString& name, const TransferSettings& settings, const QString& systemName) {
     const QString path = JoinPath(ProgramFolder, name);
     if (DamagedPath() == path) {
         if (SystemError error = CopyDamagedFile(path)) {
@@ -49,4 +52,10 @@ SystemError SaveTransferFile(const QString& name, const TransferSettings& settin
     }
     DeleteWholeFile(JoinPath(ProgramFolder, QString::fromUtf16(DestinationPathFile))); // it may well not be there
     return {};
+}
+
+} // namespace
+
+SystemError SaveTransferFile(const QString& name, const TransferSettings& settings, const QString& systemName) {
+    return RunSave([&] { return SaveSettings(name, settings, systemName); });
 }

@@ -7,6 +7,7 @@
 #include "platform/qt/FrenchTexts.h"
 #include "platform/qt/HelperPrograms.h"
 #include "platform/qt/PrinterFonts.h"
+#include "platform/qt/SlowSave.h"
 #include "platform/qt/StartedPrograms.h"
 #ifdef _WIN32
 #include "platform/qt/windows/SystemFontDialog.h"
@@ -214,6 +215,10 @@ void QtDesktop::ProcessPendingEvents() {
 
 void QtDesktop::PaintPendingWindows() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtDesktop::RunSave(const std::function<void()>& save) {
+    RunSlowSave(save, Owner(), language);
 }
 
 QDateTime QtDesktop::Now() {

@@ -23,6 +23,7 @@ public:
     bool SetPrinterFont(const QString& fontName) override;
     void ProcessPendingEvents() override;
     void PaintPendingWindows() override;
+    void RunSave(const std::function<void()>& save) override;
     QDateTime Now() override;
     Volumes& TheVolumes() override;
     SystemCalls& TheSystemCalls() override;

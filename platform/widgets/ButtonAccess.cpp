@@ -1,5 +1,6 @@
 #include "platform/widgets/ButtonAccess.h"
 
+#include "platform/SaveThread.h"
 #include "platform/widgets/TextBox.h"
 
 #include <QAbstractButton>
@@ -7,6 +8,7 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
 #include <QToolButton>
 
 namespace {
@@ -65,17 +67,21 @@ public:
             return;
         }
         QMetaObject::invokeMethod(
-            &button,
-            [pressed = &button] {
-                if (pressed->isEnabled() && TextBox::LeaveIn(*pressed->window())) {
-                    pressed->click();
-                }
-            },
-            Qt::QueuedConnection);
+            &button, [pressed = &button] { Press(*pressed); }, Qt::QueuedConnection);
     }
 
 private:
     QAbstractButton& button;
+
+    // Like a key or the mouse, it waits for the end of a save.
+    static void Press(QAbstractButton& pressed) {
+        constexpr int untilNextTry = 50; // milliseconds
+        if (SaveThread::IsBusy()) {
+            QTimer::singleShot(untilNextTry, &pressed, [&pressed] { Press(pressed); });
+        } else if (pressed.isEnabled() && TextBox::LeaveIn(*pressed.window())) {
+            pressed.click();
+        }
+    }
 
     QString Accelerator() const { return button.shortcut().toString(QKeySequence::NativeText); }
 };

@@ -2,6 +2,7 @@
 
 #include "platform/widgets/ScreenFit.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 
@@ -9,12 +10,43 @@ namespace {
 
 constexpr QSize WindowSize(800, 600); // logical pixels
 
+bool IsPress(QEvent::Type type) {
+    switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// What was pressed while a window was saving comes when it has gone already, and Save would save once more.
+class NoPressesOnceClosed : public QObject {
+public:
+    explicit NoPressesOnceClosed(QWidget& closedWindow) : QObject(&closedWindow), window(closedWindow) {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        auto* control = qobject_cast<QWidget*>(receiver);
+        return IsPress(event->type()) && control != nullptr && control->window() == &window && !window.isVisible();
+    }
+
+private:
+    QWidget& window;
+};
+
 } // namespace
 
 OptionsWindow::OptionsWindow(const char* name, QWidget* parent) : QDialog(parent) {
     setObjectName(QString::fromUtf8(name));
     setModal(true);
     resize(OpeningSize(WindowSize));
+    connect(
+        this, &QDialog::finished, this, [this] { new NoPressesOnceClosed(*this); }, Qt::SingleShotConnection);
 }
 
 void OptionsWindow::showEvent(QShowEvent* event) {

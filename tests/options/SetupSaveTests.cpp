@@ -13,6 +13,18 @@ TEST_F(SetupSave, SavingWithoutAChangeGivesTheSameBytes) {
     EXPECT_EQ(Titles(), QString());
 }
 
+// What was pressed while the window was saving reaches it when it has gone.
+TEST_F(SetupSave, PressesThatComeTooLateDoNothing) {
+    Open();
+    Click("cmdPrefSave");
+    Machine.Remove(QStringLiteral("c:\\gradewell\\GW_v11_PRG.CFG"));
+    auto* save = C<QPushButton>(QStringLiteral("cmdPrefSave"));
+    QTest::keyClick(save, Qt::Key_Space);
+    QTest::keyClick(save, Qt::Key_Return);
+    QTest::mouseClick(save, Qt::LeftButton);
+    EXPECT_FALSE(Machine.Exists(QStringLiteral("c:\\gradewell\\GW_v11_PRG.CFG")));
+}
+
 TEST_F(SetupSave, SavingDeletesThePathFile) {
     Machine.Write(QStringLiteral("c:\\gradewell\\GdWlPath.cfg"), "x");
     Open();
