@@ -17,6 +17,7 @@ constexpr double LeastContrast = 4.6; // a little more than what people need to 
 constexpr int LighterParts = 150;     // percent: how much lighter or darker a style paints parts of a button
 constexpr int DarkerParts = 124;
 constexpr int StepsToGoal = 20;
+constexpr qreal FrameShare = 0.3;    // of the text's colour in a frame on a light card
 constexpr qreal OutlineShare = 0.45; // of the text's colour: three to one against a dark card
 
 QFont TitleFont(const QWidget* widget) {
@@ -118,6 +119,22 @@ QPainterPath OutlineOf(QStyle::PrimitiveElement element, const QRect& rect) {
     return path;
 }
 
+void DrawOutline(QPainter* painter, const QPainterPath& outline, const QColor& color) {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(color);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawPath(outline);
+    painter->restore();
+}
+
+// At 125 or 150 % the plain style's thin frames fall between the pixels, and one or two of their edges are lost.
+bool LosesEdges(QStyle::PrimitiveElement element, const QPainter& painter, const QWidget* widget) {
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    const bool popup = widget != nullptr && widget->isWindow();
+    return element == QStyle::PE_Frame && !popup && ratio != std::floor(ratio);
+}
+
 } // namespace
 
 void ProgramStyle::Install() {
@@ -153,20 +170,23 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
 // The plain style outlines boxes and marks darker than the window; where that is dark, nothing is seen of it.
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {
+    const QPalette& palette = option->palette;
+    const bool plain = baseStyle()->name() == QLatin1String("fusion");
+    const auto outline = [&](qreal share) {
+        DrawOutline(painter, OutlineOf(element, option->rect),
+                    Blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), share));
+    };
+    if (plain && !IsDark(palette) && LosesEdges(element, *painter, widget)) {
+        outline(FrameShare);
+        return;
+    }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool outlined = element == PE_IndicatorRadioButton || element == PE_IndicatorCheckBox ||
                           element == PE_FrameLineEdit || element == PE_Frame;
     const bool focused = element == PE_FrameLineEdit && option->state.testFlag(State_HasFocus);
-    if (!outlined || focused || !IsDark(option->palette) || baseStyle()->name() != QLatin1String("fusion")) {
-        return;
+    if (plain && outlined && !focused && IsDark(palette)) {
+        outline(OutlineShare);
     }
-    const QPalette& palette = option->palette;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), OutlineShare));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawPath(OutlineOf(element, option->rect));
-    painter->restore();
 }
 
 QRect ProgramStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
