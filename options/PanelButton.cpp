@@ -8,6 +8,7 @@ namespace {
 
 constexpr int BarWidth = 4; // logical pixels
 constexpr int TextLeft = 12;
+constexpr int TextRight = 8;
 constexpr int Padding = 10; // above and below the text together
 
 // The text in one line, or broken at its last blank when it would not fit in bold: so it looks the same current or not.
@@ -48,7 +49,7 @@ void PanelButton::paintEvent(QPaintEvent* event) {
     if (isChecked()) {
         painter.fillRect(QRect(3, 5, BarWidth, height() - 10), palette().color(QPalette::Highlight));
     }
-    const QRect room = rect().adjusted(TextLeft, 0, -BarWidth, 0);
+    const QRect room = rect().adjusted(TextLeft, 0, -TextRight, 0);
     painter.drawItemText(room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
                          Broken(text(), font(), room.width()), QPalette::ButtonText);
     if (hasFocus()) {
