@@ -44,12 +44,13 @@ std::int16_t* NumberOf(const QString& key, const std::array<const char*, count>&
 // The number of a key "FIELD1" to "FIELD24"; 0 for any other.
 std::size_t MatchOf(const QString& key) {
     const QString start = QStringLiteral("FIELD");
-    for (std::size_t i = 1; i <= MatchLimit && key.startsWith(start); ++i) {
-        if (key.mid(start.size()) == QString::number(i)) {
-            return i;
-        }
+    if (!key.startsWith(start)) {
+        return 0;
     }
-    return 0;
+    const QStringView digits = QStringView(key).mid(start.size());
+    const int number = digits.toInt();
+    const bool plain = digits == QString::number(number); // no sign, no zero before it
+    return plain && number >= 1 && number <= MatchLimit ? static_cast<std::size_t>(number) : 0;
 }
 
 bool TakeLine(const QString& line, ImportSetup& setup) {
@@ -89,8 +90,11 @@ void CheckDobEntry(ImportSetup& setup, int match, const FieldList& fields, std::
 }
 
 int FieldNamed(const QString& entry, const FieldList& fields) {
+    const QString wanted = UpperCase(entry);
     for (int field = 1; field <= FieldCount; ++field) {
-        if (field != DobField && UpperCase(entry) == UpperCase(fields.Captions[static_cast<std::size_t>(field)])) {
+        const QString& caption = fields.Captions[static_cast<std::size_t>(field)];
+        // One character for one: a name of another length is another name.
+        if (field != DobField && caption.size() == wanted.size() && UpperCase(caption) == wanted) {
             return field;
         }
     }
@@ -142,10 +146,8 @@ QByteArray WriteSetup(const ImportSetup& setup) {
 bool ReadSetup(const QByteArray& bytes, ImportSetup& setup) {
     qsizetype start = 0;
     while (start < bytes.size()) {
-        qsizetype end = start;
-        while (end < bytes.size() && bytes[end] != '\r' && bytes[end] != '\n') {
-            ++end;
-        }
+        const auto ends = [](char byte) { return byte == '\r' || byte == '\n'; };
+        const qsizetype end = std::find_if(bytes.cbegin() + start, bytes.cend(), ends) - bytes.cbegin();
         if (!TakeLine(TextFromBytes(bytes.mid(start, end - start)), setup)) {
             return false;
         }

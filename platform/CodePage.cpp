@@ -1,5 +1,6 @@
 #include "platform/CodePage.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -24,15 +25,20 @@ int ByteOf(char16_t character) {
     return NoByte;
 }
 
-bool StartsPair(const QString& text, qsizetype at) {
-    return text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+bool StartsPair(QString::const_iterator at, QString::const_iterator end) {
+    return at->isHighSurrogate() && at + 1 != end && (at + 1)->isLowSurrogate();
 }
 
 using Convert = QString (*)(const QString&);
+using ConvertOne = QChar (QChar::*)() const;
 
-QString Recased(const QString& text, Convert convert) {
+QString Recased(const QString& text, ConvertOne convertPlain, Convert convert) {
     QString result = text;
     for (QChar& character : result) {
+        if (character.unicode() < 0x80) {
+            character = (character.*convertPlain)(); // without a text of its own for each letter
+            continue;
+        }
         const QString other = convert(QString(character));
         if (other.size() == 1 && (CodePageHas(other[0]) || !CodePageHas(character))) {
             character = other[0];
@@ -45,21 +51,22 @@ QString Recased(const QString& text, Convert convert) {
 
 QString TextFromBytes(const QByteArray& bytes) {
     QString text(bytes.size(), Qt::Uninitialized);
-    for (qsizetype i = 0; i < bytes.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(bytes[i]);
-        text[i] = byte >= 0x80 && byte < 0xA0 ? QChar(UpperControls[byte - 0x80U]) : QChar(char16_t{byte});
-    }
+    std::transform(bytes.cbegin(), bytes.cend(), text.begin(), [](char signedByte) {
+        const auto byte = static_cast<unsigned char>(signedByte);
+        return byte >= 0x80 && byte < 0xA0 ? QChar(UpperControls[byte - 0x80U]) : QChar(char16_t{byte});
+    });
     return text;
 }
 
 QByteArray BytesFromText(const QString& text) {
-    QByteArray bytes;
-    bytes.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const int byte = ByteOf(text[i].unicode());
-        bytes.append(byte == NoByte ? '?' : static_cast<char>(byte));
-        i += StartsPair(text, i) ? 1 : 0;
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char* end = bytes.data();
+    for (auto at = text.cbegin(); at != text.cend(); ++at) {
+        const int byte = ByteOf(at->unicode());
+        *end++ = byte == NoByte ? '?' : static_cast<char>(byte);
+        at += byte == NoByte && StartsPair(at, text.cend()) ? 1 : 0;
     }
+    bytes.truncate(end - bytes.data());
     return bytes;
 }
 
@@ -81,11 +88,11 @@ QString OnlyCodePage(const QString& text) {
 }
 
 QString UpperCase(const QString& text) {
-    return Recased(text, [](const QString& character) { return character.toUpper(); });
+    return Recased(text, &QChar::toUpper, [](const QString& character) { return character.toUpper(); });
 }
 
 QString LowerCase(const QString& text) {
-    return Recased(text, [](const QString& character) { return character.toLower(); });
+    return Recased(text, &QChar::toLower, [](const QString& character) { return character.toLower(); });
 }
 
 QString TrimBlanks(const QString& text) {

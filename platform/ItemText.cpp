@@ -2,6 +2,7 @@
 
 #include "platform/CodePage.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -86,13 +87,10 @@ bool ItemReader::ReadItem(QString& value) {
     if (AtEnd()) {
         return Fail(ErrorNumber::InputPastEnd);
     }
-    qsizetype first = at;
-    while (first < bytes.size() && bytes[first] == ' ') {
-        ++first;
-    }
+    const auto first = std::find_if(bytes.cbegin() + at, bytes.cend(), [](char byte) { return byte != ' '; });
     qsizetype end = 0;
-    if (first < bytes.size() && bytes[first] == '"') {
-        end = QuotedItem(first, value);
+    if (first != bytes.cend() && *first == '"') {
+        end = QuotedItem(first - bytes.cbegin(), value);
         if (end < 0) {
             return Fail(ErrorNumber::PathFileAccess);
         }
@@ -107,20 +105,18 @@ bool ItemReader::ReadItem(QString& value) {
 
 // The text between the quotes; returns where the field ends, or -1 when the line ends before the closing quote.
 qsizetype ItemReader::QuotedItem(qsizetype quote, QString& value) {
-    for (qsizetype i = quote + 1; i < bytes.size() && !IsLineEnd(bytes[i]); ++i) {
-        if (bytes[i] == '"') {
-            value = TextFromBytes(bytes.mid(quote + 1, i - quote - 1));
-            return EndOfField(i + 1);
-        }
+    const auto start = bytes.cbegin() + quote + 1;
+    const auto end = std::find_if(start, bytes.cend(), [](char byte) { return byte == '"' || IsLineEnd(byte); });
+    if (end == bytes.cend() || *end != '"') {
+        return -1;
     }
-    return -1;
+    value = TextFromBytes(bytes.mid(quote + 1, end - start));
+    return EndOfField(end - bytes.cbegin() + 1);
 }
 
 qsizetype ItemReader::EndOfField(qsizetype from) const {
-    while (from < bytes.size() && bytes[from] != ',' && !IsLineEnd(bytes[from])) {
-        ++from;
-    }
-    return from;
+    const auto ends = [](char byte) { return byte == ',' || IsLineEnd(byte); };
+    return std::find_if(bytes.cbegin() + from, bytes.cend(), ends) - bytes.cbegin();
 }
 
 void ItemReader::PassSeparator() {
