@@ -74,19 +74,30 @@ void FillBoth(ProgramConfigRecord& ours, ReferenceConfig& other) {
     });
 }
 
-std::string Differences(ProgramConfigRecord ours, ReferenceConfig other) {
+struct Filled {
+    ProgramConfigRecord Ours;
+    ReferenceConfig Other;
+
+    Filled() { FillBoth(Ours, Other); }
+};
+
+std::string Differences(ProgramConfigRecord& ours, ReferenceConfig& other) {
     std::string all;
     VisitNumbers(ours, other, [&all](std::int16_t our, std::int16_t their) {
-        all += our == their ? "" : " " + std::to_string(our) + " for " + std::to_string(their);
+        if (our != their) {
+            all += " " + std::to_string(our) + " for " + std::to_string(their);
+        }
     });
     VisitTexts(ours, other, [&all](const QString& our, const std::string& their) {
-        all += our == Text(their) ? "" : " [" + our.toStdString() + "] for [" + their + "]";
+        if (!Same(our, their)) {
+            all += " [" + our.toStdString() + "] for [" + their + "]";
+        }
     });
     return all;
 }
 
-bool HoldsQuotes(ProgramConfigRecord record) {
-    ReferenceConfig other;
+bool HoldsQuotes(ProgramConfigRecord& record) {
+    static ReferenceConfig other;
     bool quotes = false;
     VisitTexts(record, other, [&quotes](const QString& our, const std::string& /*their*/) {
         quotes = quotes || our.contains(QLatin1Char('"'));
@@ -97,9 +108,9 @@ bool HoldsQuotes(ProgramConfigRecord record) {
 } // namespace
 
 std::string FuzzConfigFile(const std::string& bytes) {
-    ProgramConfigRecord before;
-    ReferenceConfig expected;
-    FillBoth(before, expected);
+    static const Filled filled;
+    const ProgramConfigRecord& before = filled.Ours;
+    ReferenceConfig expected = filled.Other;
     const QByteArray file = Array(bytes);
     ProgramConfigRecord read = before;
     const AllocationMeter meter;
@@ -116,7 +127,7 @@ std::string FuzzConfigFile(const std::string& bytes) {
     }
     static_cast<void>(HasLaterSections(file));
     const QByteArray written = WriteConfigText(read, QString::fromLatin1(Title));
-    if (Bytes(written) != ReferenceWriteConfig(expected, Title)) {
+    if (!Same(written, ReferenceWriteConfig(expected, Title))) {
         return "the bytes written differ";
     }
     if (HoldsQuotes(read)) {

@@ -14,8 +14,7 @@ std::string Shown(int our, int their) {
 }
 
 // Every item as a text and, where it is one, as a number.
-std::string CompareItems(const std::string& bytes) {
-    const std::vector<ReferenceItem> items = ReferenceItems(bytes);
+std::string CompareItems(const std::string& bytes, const std::vector<ReferenceItem>& items) {
     ItemReader texts(Array(bytes));
     for (const ReferenceItem& item : items) {
         if (texts.AtEnd()) {
@@ -28,7 +27,7 @@ std::string CompareItems(const std::string& bytes) {
         if (item.Broken) {
             return texts.Error().Error.Number == 75 && texts.Error().Line == item.Line ? "" : "another error";
         }
-        if (Bytes(text) != item.Text) {
+        if (!Same(text, item.Text)) {
             return "[" + Bytes(text) + "] for [" + item.Text + "]";
         }
     }
@@ -39,9 +38,9 @@ std::string CompareItems(const std::string& bytes) {
     return {};
 }
 
-std::string CompareNumbers(const std::string& bytes) {
+std::string CompareNumbers(const std::string& bytes, const std::vector<ReferenceItem>& items) {
     ItemReader numbers(Array(bytes));
-    ReferenceTaker taker(bytes);
+    ReferenceTaker taker(items);
     while (true) {
         std::int16_t our = 77;
         std::int16_t their = 77;
@@ -59,9 +58,10 @@ std::string CompareNumbers(const std::string& bytes) {
 }
 
 // All items that a quoted line can hold, written and read again.
-std::string WriteItemsAgain(const std::string& bytes) {
+std::string WriteItemsAgain(const std::string& /*bytes*/, const std::vector<ReferenceItem>& read) {
     std::vector<Item> items;
-    for (const ReferenceItem& item : ReferenceItems(bytes)) {
+    items.reserve(read.size());
+    for (const ReferenceItem& item : read) {
         if (item.Text.find('"') == std::string::npos && !item.Broken) {
             items.emplace_back(Text(item.Text));
         }
@@ -92,8 +92,9 @@ std::string FuzzQuotedLines(const std::string& bytes) {
             return complaint;
         }
     }
+    const std::vector<ReferenceItem> items = ReferenceItems(bytes);
     for (const auto check : {CompareItems, CompareNumbers, WriteItemsAgain}) {
-        if (std::string complaint = check(bytes); !complaint.empty()) {
+        if (std::string complaint = check(bytes, items); !complaint.empty()) {
             return complaint;
         }
     }

@@ -28,24 +28,24 @@ std::vector<std::string> ReferenceLines(const std::string& bytes) {
 
 namespace {
 
-// Cuts the first item off a line. Sets `more` when a comma follows it.
-ReferenceItem CutItem(std::string& rest, bool& more) {
+// The item that starts at `place` of a line. Moves `place` behind the comma that follows it, or sets it to npos.
+ReferenceItem ItemAt(const std::string& line, std::size_t& place) {
     ReferenceItem item;
-    const std::size_t start = rest.find_first_not_of(' ');
-    if (start != std::string::npos && rest[start] == '"') {
-        const std::size_t end = rest.find('"', start + 1);
+    std::size_t behind = place;
+    const std::size_t start = line.find_first_not_of(' ', place);
+    if (start != std::string::npos && line[start] == '"') {
+        const std::size_t end = line.find('"', start + 1);
         if (end == std::string::npos) {
             item.Broken = true;
             return item;
         }
-        item.Text = rest.substr(start + 1, end - start - 1);
-        rest = rest.substr(end + 1);
+        item.Text = line.substr(start + 1, end - start - 1);
+        behind = end + 1;
     } else {
-        item.Text = rest.substr(0, rest.find(','));
+        item.Text = line.substr(place, line.find(',', place) - place);
     }
-    const std::size_t comma = rest.find(',');
-    more = comma != std::string::npos;
-    rest = more ? rest.substr(comma + 1) : std::string();
+    const std::size_t comma = line.find(',', behind);
+    place = comma == std::string::npos ? std::string::npos : comma + 1;
     return item;
 }
 
@@ -58,11 +58,10 @@ bool IsDigit(char byte) {
 std::vector<ReferenceItem> ReferenceItems(const std::string& bytes) {
     std::vector<ReferenceItem> items;
     int number = 0;
-    for (std::string line : ReferenceLines(bytes)) {
+    for (const std::string& line : ReferenceLines(bytes)) {
         ++number;
-        for (bool more = true; more;) {
-            more = false;
-            items.push_back(CutItem(line, more));
+        for (std::size_t place = 0; place != std::string::npos;) {
+            items.push_back(ItemAt(line, place));
             items.back().Line = number;
             if (items.back().Broken) {
                 return items;

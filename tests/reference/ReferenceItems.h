@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// A second reading of the files' rules, written apart from the program's own: plain C++ on the bytes of the file, the
@@ -35,6 +36,7 @@ double ReferenceLeadingNumber(const std::string& text, const std::string& expone
 class ReferenceTaker {
 public:
     explicit ReferenceTaker(const std::string& bytes) : items(ReferenceItems(bytes)) {}
+    explicit ReferenceTaker(std::vector<ReferenceItem> itemsToTake) : items(std::move(itemsToTake)) {}
 
     int ErrorNumber = 0; ///< 0: none
     int ErrorLine = 0;   ///< of the broken or wrong item
