@@ -15,3 +15,8 @@ foreach(place IN LISTS hostQt)
     get_filename_component(place "${place}" DIRECTORY)
     set(QT_HOST_PATH_CMAKE_DIR "${place}" CACHE PATH "The host's Qt for CMake")
 endforeach()
+# A function that each source compiles for itself, such as a template's, is kept once by the linker. For Windows GCC takes
+# for granted that it is this source's own copy, and keeps values in registers that the copy leaves alone; another copy,
+# compiled otherwise, destroys them. So nothing may rely on that, and all is optimised alike: -O2, as Qt is.
+set(CMAKE_C_FLAGS_INIT -fno-ipa-ra)
+set(CMAKE_CXX_FLAGS_INIT -fno-ipa-ra)
