@@ -2,7 +2,8 @@
 
 add_library(gradewell_flags INTERFACE)
 target_compile_features(gradewell_flags INTERFACE cxx_std_20)
-target_include_directories(gradewell_flags INTERFACE "${PROJECT_SOURCE_DIR}")
+cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH sources)
+target_include_directories(gradewell_flags INTERFACE "${sources}")
 target_compile_definitions(gradewell_flags INTERFACE
     QT_NO_CAST_FROM_ASCII      # every text says which encoding it comes from
     QT_NO_CAST_TO_ASCII
