@@ -36,7 +36,7 @@ TEST_P(OptionsInTrouble, RefusedTextStopsSaveByItsAccessKey) {
     Press("Escape");
     Program->AwaitWindow(Installed.Edition.MenuTitle);
     EXPECT_FALSE(Installed.Exists(QStringLiteral("GW_v11_PRG.CFG")));
-    EXPECT_EQ(Written("GW_v12_PRG.CFG").toStdString(), State("options-start").toStdString());
+    EXPECT_EQ(Written("GW_v12_PRG.CFG").toStdString(), Here(State("options-start")).toStdString());
 }
 
 TEST_P(OptionsInTrouble, VanishedFolderAsksAndTheWindowStaysUsable) {
@@ -45,8 +45,7 @@ TEST_P(OptionsInTrouble, VanishedFolderAsksAndTheWindowStaysUsable) {
     AnswerMessage("DEFAULT PATH ERROR", "Retry");
     AwaitText("lblDfltPath", "g:\\gone");
     ASSERT_TRUE(QDir().rmdir(Network + QStringLiteral("/gone")));
-    Click("dirHDir");
-    Press("Return"); // opens the current folder again, which is not there any more
+    Work("dirHDir", "Return"); // opens the current folder again, which is not there any more
     AnswerMessage("DEFAULT PATH ERROR", "Cancel");
     AwaitText("lblDfltPath", "c:\\");
     AwaitText("drvHDir", "c:");
@@ -75,6 +74,9 @@ TEST_P(OptionsInTrouble, GradebookFolderIsWarnedAboutAndKept) {
 }
 
 TEST_P(OptionsInTrouble, FolderNamesThatNoFileCanHoldAreRefused) {
+    if (UnderWine()) {
+        GTEST_SKIP() << "Windows has no such names";
+    }
     Installed.MakeFolder(QStringLiteral("network/backup/a\"b")); // the first in its folder
     Open(State("options-start"));
     Click("cmdBkupPathBrowse");

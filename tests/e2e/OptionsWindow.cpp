@@ -6,6 +6,7 @@
 namespace {
 
 const QString FileNameBox = QStringLiteral("fileNameEdit");
+const QString NetworkDrive = QStringLiteral("g:");
 
 QString Name(const char* text) {
     return QString::fromUtf8(text);
@@ -34,8 +35,23 @@ QByteArray OptionsWindow::State(const char* state) const {
     return EditionGolden(Installed, state);
 }
 
+// A path on g: as the program shows it here.
+QString OptionsWindow::Placed(const char* shown) const {
+    const QString text = Name(shown);
+    if (!UnderWine() || !text.startsWith(NetworkDrive)) {
+        return text;
+    }
+    const QString below = text.mid(NetworkDrive.size() + 1);
+    return Installed.Shown(below.isEmpty() ? QStringLiteral("network") : QStringLiteral("network/") + below);
+}
+
+QByteArray OptionsWindow::Here(QByteArray configFile) const {
+    return UnderWine() ? configFile.replace("g:\\", Installed.Shown(QStringLiteral("network/")).toLatin1())
+                       : configFile;
+}
+
 void OptionsWindow::Open(const QByteArray& configFile, const QString& active) {
-    Installed.Write(Newer, configFile);
+    Installed.Write(Newer, Here(configFile));
     Program = StartToMenu(Installed);
     Program->Press(Installed.Edition.MenuTitle, QStringLiteral("alt+g"));
     Program->AwaitWindow(active.isEmpty() ? Title : active);
@@ -79,7 +95,7 @@ void OptionsWindow::Work(const QString& window, const char* control, const char*
 }
 
 void OptionsWindow::AwaitText(const char* control, const char* text) {
-    Program->AwaitText(Title, Name(control), Name(text));
+    Program->AwaitText(Title, Name(control), Placed(text));
 }
 
 void OptionsWindow::AwaitChecked(const char* option) {
@@ -105,6 +121,12 @@ void OptionsWindow::AnswerNotice(const char* title) {
 
 // The information box before a dialog may have the dialog's title.
 void OptionsWindow::AnswerFileDialog(const char* title, const QString& nativeName) {
+    if (UnderWine()) {
+        Program->ChooseFile(Name(title), NativeName(nativeName));
+        Program->Await(QStringLiteral("the dialog to go"),
+                       [&](const SeenScreen&) { return !Program->FileDialogIsOpen(Name(title)); });
+        return;
+    }
     Program->Await(QStringLiteral("the dialog \"%1\"").arg(Name(title)), [&](const SeenScreen& screen) {
         const SeenWindow* dialog = screen.Window(Name(title));
         return dialog != nullptr && dialog->Active && dialog->Has(FileNameBox) && dialog->Control(FileNameBox).Focused;
@@ -117,6 +139,13 @@ void OptionsWindow::AnswerFileDialog(const char* title, const QString& nativeNam
 }
 
 void OptionsWindow::ChooseFont(const QString& name) {
+    if (UnderWine()) { // it opens with the keyboard in the box for the name
+        Program->Await(QStringLiteral("the system's font dialog"),
+                       [](const SeenScreen&) { return ActiveTitle() == QStringLiteral("Font"); });
+        TypeText(name);
+        PressKey(QStringLiteral("Return"));
+        return;
+    }
     const QString dialog = Installed.Edition.Shown("Select Font");
     Program->AwaitWindow(dialog);
     TypeText(name);
@@ -127,5 +156,5 @@ void OptionsWindow::ChooseFont(const QString& name) {
 void OptionsWindow::ExpectSaved(const QByteArray& bytes) {
     Program->AwaitNoWindow(Title);
     Program->AwaitWindow(Installed.Edition.MenuTitle);
-    AwaitBothFiles(*Program, Installed, bytes);
+    AwaitBothFiles(*Program, Installed, Here(bytes));
 }

@@ -7,7 +7,8 @@
 #include <memory>
 
 /// A program folder with the folders of a gradebook on the drive g:, and what the tests of General Options do over and
-/// over in the real program.
+/// over in the real program. Where drives are the system's own, the folder itself stands for g: in all that a test
+/// gives or expects.
 class OptionsWindow : public testing::TestWithParam<std::string> {
 protected:
     OptionsWindow();
@@ -19,6 +20,8 @@ protected:
 
     /// The hand-written file of the edition in that state ("options-start").
     QByteArray State(const char* state) const;
+    /// A configuration file with what stands for g: here.
+    QByteArray Here(QByteArray configFile) const;
     /// Starts the program on a configuration file and opens General Options by its access key; `active` is the window
     /// that then has the keyboard (none: General Options).
     void Open(const QByteArray& configFile, const QString& active = {});
@@ -43,4 +46,7 @@ protected:
     void ChooseFont(const QString& name);
     /// The window is gone, the menu is back, and both files hold the bytes.
     void ExpectSaved(const QByteArray& bytes);
+
+private:
+    QString Placed(const char* shown) const;
 };
