@@ -214,7 +214,7 @@ void QtDesktop::ProcessPendingEvents() {
 }
 
 void QtDesktop::PaintPendingWindows() {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    ProcessAllButPresses();
 }
 
 void QtDesktop::RunSave(const std::function<void()>& save) {

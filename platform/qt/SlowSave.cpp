@@ -3,6 +3,7 @@
 #include "platform/SaveThread.h"
 
 #include <QAbstractButton>
+#include <QAbstractEventDispatcher>
 #include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
@@ -66,12 +67,18 @@ void ShowUntilItEnds(SaveThread& running, QWidget* over, CaptionLanguage languag
         if (notice == nullptr && over != nullptr && clock.elapsed() >= QuietSave - ShortSave) {
             notice = ShowSavingNotice(over, language);
         }
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        ProcessAllButPresses();
     }
     delete notice;
 }
 
 } // namespace
+
+// The presses that were left out wait in a queue that wakes nobody: without a call the next event would have to.
+void ProcessAllButPresses() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    QAbstractEventDispatcher::instance()->wakeUp();
+}
 
 void RunSlowSave(const std::function<void()>& save, QWidget* over, CaptionLanguage language) {
     SaveThread running(save);

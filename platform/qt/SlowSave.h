@@ -10,3 +10,6 @@ class QWidget;
 /// busy, and soon after a notice in the window `over` (none: in no window) says what it does. The windows stay painted;
 /// nothing that the user presses acts before the end.
 void RunSlowSave(const std::function<void()>& save, QWidget* over, CaptionLanguage language);
+
+/// Lets everything happen but what the user presses, which waits.
+void ProcessAllButPresses();

@@ -76,6 +76,19 @@ TEST_P(SlowShare, PressesOfTheLockWaitForItsSave) {
     }
 }
 
+// Nothing comes after the keys that would wake the program.
+TEST_P(SlowShare, KeysPressedDuringASaveActAfterIt) {
+    StartUnlocked();
+    StallTheShare();
+    Program->Click(Menu, QStringLiteral("imgUnlocked"));
+    AwaitNotice(Menu);
+    Program->Press(Menu, Installed.Edition.ExitKeys);
+    AwaitNotice(Menu);
+    ShareAnswers();
+    EXPECT_EQ(Program->AwaitEnd(), 0);
+    AwaitBothFiles(*Program, Installed, State("locked"));
+}
+
 TEST_P(SlowShare, GeneralOptionsSaysThatItSavesAndSavesOnce) {
     StartUnlocked();
     Program->Press(Menu, QStringLiteral("alt+g"));
