@@ -188,6 +188,37 @@ TEST_F(ConfigFiles, ACopyNeverReplacesAnEarlierOne) {
     EXPECT_EQ(Disk.Read(Newer + QStringLiteral(".damaged-20160307-093001")), "damaged");
 }
 
+TEST_F(ConfigFiles, WithoutANameForItsCopyADamagedFileIsNotReplaced) {
+    Disk.Write(Newer, "damaged");
+    for (int later = 0; later < 100; ++later) {
+        const QDateTime time = Disk.Screen.Clock.addSecs(later);
+        Disk.Write(Newer + time.toString(QStringLiteral("'.damaged-'yyyyMMdd-HHmmss")), "an earlier one");
+    }
+    Locate();
+    Disk.Screen.Answer(MessageAnswer::Ok);
+    SaveProgramConfig();
+    ExpectSaveError(0, "GW_v12_PRG.CFG", 75);
+    EXPECT_EQ(Disk.Read(Newer), "damaged");
+}
+
+TEST_F(ConfigFiles, AnUnreadableNameForItsCopyKeepsADamagedFileFromBeingReplaced) {
+    Disk.Write(Newer, "damaged");
+    Disk.Write(Newer + QStringLiteral(".damaged-20160307-093000"), "an earlier one");
+    Locate();
+    int opened = 0;
+    Calls.Before = [&](FaultyCalls::Kind kind) {
+        opened += kind == FaultyCalls::Kind::OpenForReading ? 1 : 0;
+        if (opened == 2) { // the first is the damaged file itself
+            Calls.FailFirst(FaultyCalls::Kind::OpenForReading, EIO, 100);
+        }
+    };
+    Disk.Screen.Answer(MessageAnswer::Ok);
+    SaveProgramConfig();
+    ExpectSaveError(0, "GW_v12_PRG.CFG", 57);
+    EXPECT_EQ(Disk.Read(Newer), "damaged");
+    EXPECT_EQ(Disk.Names(ProgramFolder).size(), 3) << "the older file is new, and no copy was made";
+}
+
 TEST_F(ConfigFiles, AnEmptyFileNeedsNoCopy) {
     Disk.Write(Newer, "");
     Locate();

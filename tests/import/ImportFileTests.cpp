@@ -162,6 +162,24 @@ TEST_F(ImportFileTest, ReportsADeviceThatFails) {
     EXPECT_EQ(57, result.Error.Number);
 }
 
+TEST_F(ImportFileTest, NoticesThatTheFileIsCutWhileItIsRead) {
+    const ImportFile file = Counted("a\nb\n");
+    calls.LongestRead = 0; // nothing is left where the record was
+    EXPECT_EQ(Outcome::Changed, file.ReaderOf(2)().Came.What);
+}
+
+TEST_F(ImportFileTest, IsWholeWhenItIsStoppedBehindItsLastByte) {
+    constexpr int APiece = 128 * 1024;
+    folder.Write(path, QByteArray("0123456\n").repeated(APiece / 8));
+    calls.StallAfter(1); // the end itself does not come
+    ImportFile file(path);
+    const auto whenAllIsRead = [](std::int64_t read, std::int64_t size) { return size == 0 || read < size; };
+    EXPECT_EQ(Outcome::Done, file.Count(whenAllIsRead).What);
+    calls.Recover();
+    EXPECT_EQ(APiece / 8, file.RecordCount());
+    EXPECT_EQ(Text("0123456"), FirstField(file, file.RecordCount()));
+}
+
 TEST_F(ImportFileTest, KeepsWhatWasCountedBeforeAFailure) {
     folder.Write(path, QByteArray("0123456\n").repeated(100000));
     calls.LongestRead = 64 * 1024;

@@ -1,13 +1,16 @@
 #include "platform/RandomAccessFile.h"
+#include "tests/support/FaultyCalls.h"
 #include "tests/support/TestFolder.h"
 
+#include <cerrno>
 #include <gtest/gtest.h>
 
 namespace {
 
 class RandomAccessFileTest : public testing::Test {
 protected:
-    TestFolder folder;
+    FaultyCalls calls;
+    TestFolder folder{calls};
     RandomAccessFile file;
     const QString path = QStringLiteral("c:\\data\\Students.txt");
 
@@ -55,6 +58,28 @@ TEST_F(RandomAccessFileTest, TellsByTheStampThatTheFileWasWritten) {
     std::filesystem::last_write_time(folder.Native(path), time + std::chrono::seconds(1));
     ASSERT_FALSE(again.Open(path));
     EXPECT_NE(before, again.Stamp());
+}
+
+TEST_F(RandomAccessFileTest, TellsWhyItCannotBeOpened) {
+    folder.Write(path, "abc");
+    calls.FailFirst(FaultyCalls::Kind::OpenForReading, EACCES, 1);
+    EXPECT_EQ(70, file.Open(path).Number);
+    ASSERT_FALSE(file.Open(path));
+    EXPECT_EQ(QByteArray("abc"), ReadAt(0, 3));
+}
+
+TEST_F(RandomAccessFileTest, LooksForItsPlaceAgainAfterAFailure) {
+    folder.Write(path, "0123456789");
+    for (const auto kind : {FaultyCalls::Kind::Seek, FaultyCalls::Kind::Read}) {
+        ASSERT_FALSE(file.Open(path));
+        EXPECT_EQ(QByteArray("01"), ReadAt(0, 2));
+        calls.FailFirst(kind, EIO, 1);
+        char byte = '?';
+        std::int64_t count = 9;
+        EXPECT_EQ(57, file.ReadAt(4, &byte, 1, count).Number);
+        EXPECT_EQ(0, count);
+        EXPECT_EQ(QByteArray("2345"), ReadAt(2, 4)) << "where the file stood before the failure";
+    }
 }
 
 TEST_F(RandomAccessFileTest, RefusesWhatIsNoFile) {
