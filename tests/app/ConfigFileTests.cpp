@@ -201,22 +201,30 @@ TEST_F(ConfigFiles, WithoutANameForItsCopyADamagedFileIsNotReplaced) {
     EXPECT_EQ(Disk.Read(Newer), "damaged");
 }
 
-TEST_F(ConfigFiles, AnUnreadableNameForItsCopyKeepsADamagedFileFromBeingReplaced) {
-    Disk.Write(Newer, "damaged");
-    Disk.Write(Newer + QStringLiteral(".damaged-20160307-093000"), "an earlier one");
-    Locate();
-    int opened = 0;
-    Calls.Before = [&](FaultyCalls::Kind kind) {
-        opened += kind == FaultyCalls::Kind::OpenForReading ? 1 : 0;
-        if (opened == 2) { // the first is the damaged file itself
-            Calls.FailFirst(FaultyCalls::Kind::OpenForReading, EIO, 100);
+// Whichever of the files that a copy takes cannot be opened: the damaged one, one that has its name, the copy itself.
+TEST_F(ConfigFiles, FilesThatDoNotOpenKeepADamagedFileFromBeingReplaced) {
+    for (int firstToFail = 1; firstToFail <= 3; ++firstToFail) {
+        FaultyCalls calls;
+        TestFolder disk(calls);
+        disk.Write(Newer, "damaged");
+        disk.Write(Newer + QStringLiteral(".damaged-20160307-093000"), "an earlier one");
+        Locate();
+        int opened = 0;
+        calls.Before = [&](FaultyCalls::Kind kind) {
+            opened += kind == FaultyCalls::Kind::OpenForReading ? 1 : 0;
+            if (opened == firstToFail) {
+                calls.FailAll(FaultyCalls::Kind::OpenForReading, EIO);
+            }
+        };
+        disk.Screen.Answer(MessageAnswer::Ok);
+        disk.Screen.Answer(MessageAnswer::Ok);
+        SaveProgramConfig();
+        EXPECT_EQ(disk.Screen.Messages.back().Title, QStringLiteral("GW_v12_PRG.CFG SAVE ERROR: 57")) << firstToFail;
+        EXPECT_EQ(disk.Read(Newer), "damaged");
+        while (disk.Screen.Messages.size() < 2) {
+            disk.Screen.ShowMessage({}); // an answer that was not needed
         }
-    };
-    Disk.Screen.Answer(MessageAnswer::Ok);
-    SaveProgramConfig();
-    ExpectSaveError(0, "GW_v12_PRG.CFG", 57);
-    EXPECT_EQ(Disk.Read(Newer), "damaged");
-    EXPECT_EQ(Disk.Names(ProgramFolder).size(), 3) << "the older file is new, and no copy was made";
+    }
 }
 
 TEST_F(ConfigFiles, AnEmptyFileNeedsNoCopy) {
