@@ -10,8 +10,10 @@ CHECK_PACKAGES="clang-format-14 clang-tidy-14 python3"
 FUZZ_PACKAGES="clang-14"
 # What finds the libraries that a .deb depends on; it takes "file" to tell the programs among the files.
 PACKAGE_PACKAGES="dpkg-dev file"
-# Compiler, test library and packer of the Windows programs, and what runs them here (the 64-bit loader is enough).
-WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix googletest zip"
+# The compiler for Windows; test library and packer of the Windows programs; what runs them here (the 64-bit loader is
+# enough).
+CROSS_PACKAGES="g++-mingw-w64-x86-64-posix"
+WINDOWS_PACKAGES="$CROSS_PACKAGES googletest zip"
 WINE_PACKAGES="wine wine64 fonts-wine"
 
 # Prints those of the named packages that are not installed.
