@@ -17,6 +17,7 @@ foreach(place IN LISTS hostQt)
 endforeach()
 # A function that each source compiles for itself, such as a template's, is kept once by the linker. For Windows GCC takes
 # for granted that it is this source's own copy, and keeps values in registers that the copy leaves alone; another copy,
-# compiled otherwise, destroys them. So nothing may rely on that, and all is optimised alike: -O2, as Qt is.
+# compiled otherwise, destroys them. So nothing compiled here relies on that, and all is optimised alike: -O2, as Qt is. A
+# Qt that was made elsewhere may rely on it; the tests therefore use no std::mt19937, of which it has a copy.
 set(CMAKE_C_FLAGS_INIT -fno-ipa-ra)
 set(CMAKE_CXX_FLAGS_INIT -fno-ipa-ra)

@@ -35,7 +35,7 @@ TEST_P(HostileBytes, HoldForEveryStoredInput) {
 }
 
 TEST_P(HostileBytes, HoldForGeneratedInputs) {
-    std::mt19937 random(20160307);
+    std::mt19937_64 random(20160307);
     for (int i = 0; i < INPUTS_PER_TARGET; ++i) {
         const std::string bytes = i % 2 == 0 ? SoupOf(random) : DamagedGood(GetParam().Name, random);
         const std::string complaint = GetParam().Run(bytes);

@@ -96,15 +96,15 @@ const std::string Pieces[] = {"\"",
                               std::string(1, '\0'),
                               "\x0B"};
 
-std::size_t Below(std::mt19937& random, std::size_t limit) {
+std::size_t Below(std::mt19937_64& random, std::size_t limit) {
     return random() % limit; // the same on every machine
 }
 
-const std::string& Piece(std::mt19937& random) {
+const std::string& Piece(std::mt19937_64& random) {
     return Pieces[Below(random, std::size(Pieces))];
 }
 
-std::string Typed(std::mt19937& random) {
+std::string Typed(std::mt19937_64& random) {
     std::string text;
     for (std::size_t count = Below(random, 4); count > 0; --count) {
         for (const char byte : Piece(random)) {
@@ -114,11 +114,11 @@ std::string Typed(std::mt19937& random) {
     return text;
 }
 
-std::int16_t SmallNumber(std::mt19937& random, int highest) {
+std::int16_t SmallNumber(std::mt19937_64& random, int highest) {
     return static_cast<std::int16_t>(Below(random, static_cast<std::size_t>(highest) + 1));
 }
 
-std::string GoodConfig(std::mt19937& random) {
+std::string GoodConfig(std::mt19937_64& random) {
     ReferenceConfig config;
     config.Lock = SmallNumber(random, 1);
     config.StartMonth = 1;
@@ -136,7 +136,7 @@ std::string GoodConfig(std::mt19937& random) {
     return ReferenceWriteConfig(config, "[A title]");
 }
 
-std::string GoodScheme(std::mt19937& random) {
+std::string GoodScheme(std::mt19937_64& random) {
     std::string file = "\"" + Typed(random) + "\",\" <- Heading for General Analysis columns\"\r\n";
     const std::size_t pairs = 1 + Below(random, 25);
     for (std::size_t i = 0; i < pairs; ++i) {
@@ -145,7 +145,7 @@ std::string GoodScheme(std::mt19937& random) {
     return file;
 }
 
-std::string GoodTransfer(std::mt19937& random) {
+std::string GoodTransfer(std::mt19937_64& random) {
     const bool older = Below(random, 4) == 0;
     return std::string("[A title]\r\n[2016 CY]\r\nProgram Config Lock=") + (Below(random, 2) != 0 ? "ON" : "OFF") +
            "\r\n[Path to " + (older ? "Other" : "Report") + " Folder (may be blank)]\r\n\"" + Typed(random) +
@@ -154,7 +154,7 @@ std::string GoodTransfer(std::mt19937& random) {
            "\r\n\"\"\r\n[SIS Name]\r\n\"Trillium\"\r\n";
 }
 
-std::string GoodSetup(std::mt19937& random) {
+std::string GoodSetup(std::mt19937_64& random) {
     static const std::string names[] = {"Last Name",    "First Name",        "Program",   "Gender",
                                         "Home Form",    "Ignore this field", "Phone #1",  "DOB (YearMMDD)",
                                         "Import If #1", "Student e-mail",    "nonsense ", "DOB (Year/Mth/Day)"};
@@ -170,7 +170,7 @@ std::string GoodSetup(std::mt19937& random) {
     return file + options.substr(options.find("[Update Actions"));
 }
 
-std::string GoodRecord(std::mt19937& random) {
+std::string GoodRecord(std::mt19937_64& random) {
     const char separator = Below(random, 2) != 0 ? ',' : '\t';
     std::string record;
     for (std::size_t count = Below(random, 30); count > 0; --count) {
@@ -180,7 +180,7 @@ std::string GoodRecord(std::mt19937& random) {
     return record;
 }
 
-std::string GoodTexts(std::mt19937& random) {
+std::string GoodTexts(std::mt19937_64& random) {
     std::string texts;
     for (int i = 0; i < 8; ++i) {
         texts += static_cast<char>(1 + Below(random, 12));
@@ -192,7 +192,7 @@ std::string GoodTexts(std::mt19937& random) {
 }
 
 // The start of a line and the start of the next one.
-std::pair<std::size_t, std::size_t> SomeLine(const std::string& bytes, std::mt19937& random) {
+std::pair<std::size_t, std::size_t> SomeLine(const std::string& bytes, std::mt19937_64& random) {
     const std::size_t place = Below(random, bytes.size());
     const std::size_t before = bytes.rfind('\n', place);
     const std::size_t after = bytes.find('\n', place);
@@ -200,7 +200,7 @@ std::pair<std::size_t, std::size_t> SomeLine(const std::string& bytes, std::mt19
     return {start, after == std::string::npos ? bytes.size() : after + 1};
 }
 
-void Damage(std::string& bytes, std::mt19937& random) {
+void Damage(std::string& bytes, std::mt19937_64& random) {
     if (bytes.empty()) {
         return;
     }
@@ -233,7 +233,7 @@ void Damage(std::string& bytes, std::mt19937& random) {
 
 } // namespace
 
-std::string SoupOf(std::mt19937& random) {
+std::string SoupOf(std::mt19937_64& random) {
     std::string soup;
     for (std::size_t count = Below(random, 40); count > 0; --count) {
         soup += Piece(random);
@@ -241,7 +241,7 @@ std::string SoupOf(std::mt19937& random) {
     return soup;
 }
 
-std::string DamagedGood(const std::string& target, std::mt19937& random) {
+std::string DamagedGood(const std::string& target, std::mt19937_64& random) {
     std::string bytes;
     if (target == "config" || target == "quoted") {
         bytes = GoodConfig(random);

@@ -79,7 +79,7 @@ TEST(ByteScansTest, FindsTheAsciiBlocksInFront) {
     EXPECT_EQ(0, AsciiAtStart(bytes.constData(), 0));
 }
 
-QByteArray RandomLines(std::mt19937& random, int size) {
+QByteArray RandomLines(std::mt19937_64& random, int size) {
     const char letters[] = "abcdef\r\n\n\r";
     QByteArray bytes;
     for (int i = 0; i < size; ++i) {
@@ -89,7 +89,7 @@ QByteArray RandomLines(std::mt19937& random, int size) {
 }
 
 TEST(LineIndexTest, MarksStartLinesAndLieNearEveryLine) {
-    std::mt19937 random(20160307);
+    std::mt19937_64 random(20160307);
     for (int round = 0; round < 60; ++round) {
         const QByteArray bytes = RandomLines(random, 3000);
         const std::vector<std::int64_t> starts = StartsOf(bytes);

@@ -95,7 +95,7 @@ QStringList SplitPlainly(QString line) {
 }
 
 TEST(SplitImportRecordTest, AgreesWithThePlainRuleOnRandomRecords) {
-    std::mt19937 random(20160307);
+    std::mt19937_64 random(20160307);
     const char letters[] = "ab   \"\"\",,,,\t";
     for (int round = 0; round < 20000; ++round) {
         QByteArray record;
