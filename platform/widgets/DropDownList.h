@@ -2,8 +2,8 @@
 
 #include <QComboBox>
 
-/// A drop-down list that the mouse wheel changes only while it has the focus, so that scrolling past it changes nothing
-/// by accident.
+/// A drop-down list that nothing changes by accident: the mouse wheel only while it has the focus, and letters only
+/// without Alt, so that an access key which no control has does not choose an entry.
 class DropDownList : public QComboBox {
     Q_OBJECT
 
@@ -11,5 +11,6 @@ public:
     explicit DropDownList(QWidget* parent = nullptr);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 };

@@ -93,6 +93,22 @@ TEST(DropDownLists, TheWheelActsOnlyWithTheFocus) {
     EXPECT_EQ(list.currentIndex(), 1);
 }
 
+TEST(DropDownLists, ALetterChoosesOnlyWithoutAlt) {
+    QWidget window;
+    DropDownList list(&window);
+    list.addItems({QStringLiteral("apple"), QStringLiteral("bee")});
+    ShowActive(window);
+    list.setFocus();
+    for (const Qt::KeyboardModifier with : {Qt::AltModifier, Qt::ControlModifier, Qt::MetaModifier}) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_B, with, QStringLiteral("b"));
+        QApplication::sendEvent(&list, &event);
+        EXPECT_EQ(list.currentIndex(), 0);
+        EXPECT_FALSE(event.isAccepted()) << "the window may want it";
+    }
+    QTest::keyClick(&list, Qt::Key_B);
+    EXPECT_EQ(list.currentIndex(), 1);
+}
+
 #ifdef Q_OS_WIN
 TEST(DialogFilters, AsTheSystemsDialogTakesThem) {
     EXPECT_EQ(QtFilters(QStringLiteral("All Files (*.*)|*.*")), QStringList({QStringLiteral("All Files (*.*)")}));
