@@ -25,9 +25,14 @@ QString PatternOf(const QString& pattern) {
 }
 #endif
 
-// Qt takes the last parentheses of an entry for the pattern, so the label goes without its own.
+// Qt takes the last parentheses of an entry for the pattern. The system's dialog on Windows shows them; elsewhere the
+// label keeps its own, and the dialog is told to show nothing more.
 QString QtFilter(const QString& label, const QString& pattern) {
+#ifdef Q_OS_WIN
     const QString name = label.left(label.indexOf(QLatin1Char('('))).trimmed();
+#else
+    const QString& name = label;
+#endif
     return QStringLiteral("%1 (%2)").arg(name, PatternOf(pattern));
 }
 

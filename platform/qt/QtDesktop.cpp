@@ -140,6 +140,9 @@ FileDialogAnswer QtDesktop::AskForFile(const FileDialog& dialog) {
     asked.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     asked.setFileMode(dialog.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     asked.setOption(QFileDialog::DontConfirmOverwrite, !dialog.OverwritePrompt);
+#ifndef _WIN32
+    asked.setOption(QFileDialog::HideNameFilterDetails); // "*.[jJ][pP][gG]"
+#endif
     asked.setNameFilters(QtFilters(dialog.Filter));
     asked.setDefaultSuffix(dialog.DefaultExtension.mid(1));
     Propose(asked, dialog, *volumes);

@@ -116,6 +116,28 @@ TEST_F(RealDesktop, QtsTextsAreEnglishAgainAfterTheFrenchDesktop) {
     EXPECT_EQ(QCoreApplication::translate("frmMaster_SU", "Cancel"), QStringLiteral("Cancel")) << "not Qt's own";
 }
 
+TEST_F(RealDesktop, AFileDialogOpensInTheProposedFolder) {
+    ASSERT_TRUE(QDir(Folder.path()).mkdir(QStringLiteral("photos")));
+    for (const char* proposed : {"c:\\photos\\", "c:\\photos\\Don't_Delete_Me"}) {
+        for (const FileDialog::Kind kind : {FileDialog::Kind::Open, FileDialog::Kind::Save}) {
+            QString shown;
+            QString type;
+            WhenShown<QFileDialog>([&](QFileDialog& asked) {
+                shown = asked.directory().absolutePath();
+                type = asked.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->currentText();
+                asked.reject();
+            });
+            FileDialog dialog;
+            dialog.DialogKind = kind;
+            dialog.Filter = QStringLiteral("JPeg (*.jpg)|*.jpg");
+            dialog.FileName = QString::fromLatin1(proposed);
+            EXPECT_TRUE(Screen.AskForFile(dialog).Error);
+            EXPECT_EQ(shown, Native("photos")) << proposed;
+            EXPECT_EQ(type, QStringLiteral("JPeg (*.jpg)"));
+        }
+    }
+}
+
 TEST_F(RealDesktop, AChosenNameKeepsToTheFlags) {
     ASSERT_TRUE(QFile(Native("there.txt")).open(QIODevice::WriteOnly));
     struct Row {

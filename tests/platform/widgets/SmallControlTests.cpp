@@ -130,11 +130,12 @@ TEST(HelperPrograms, ThePathIsOneQuotedArgument) {
 }
 #else
 TEST(DialogFilters, AsQtTakesThem) {
-    EXPECT_EQ(QtFilters(QStringLiteral("All Files (*.*)|*.*")), QStringList({QStringLiteral("All Files (*)")}));
+    EXPECT_EQ(QtFilters(QStringLiteral("All Files (*.*)|*.*")), QStringList({QStringLiteral("All Files (*.*) (*)")}));
     EXPECT_EQ(QtFilters(QStringLiteral("Schemes (*.scm)|*.scm")),
-              QStringList({QStringLiteral("Schemes (*.[sS][cC][mM])")}));
+              QStringList({QStringLiteral("Schemes (*.scm) (*.[sS][cC][mM])")}));
     EXPECT_EQ(QtFilters(QStringLiteral("JPeg (*.jpg)|*.jpg|Bit Map (*.bmp)|*.bmp")),
-              QStringList({QStringLiteral("JPeg (*.[jJ][pP][gG])"), QStringLiteral("Bit Map (*.[bB][mM][pP])")}));
+              QStringList({QStringLiteral("JPeg (*.jpg) (*.[jJ][pP][gG])"),
+                           QStringLiteral("Bit Map (*.bmp) (*.[bB][mM][pP])")}));
     EXPECT_EQ(QtFilters(QString()), QStringList());
 }
 #endif
