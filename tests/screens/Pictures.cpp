@@ -52,14 +52,17 @@ QImage WithFewColours(const QImage& picture) {
 
 } // namespace
 
-PictureTaker::PictureTaker(QString folderToFill, QString prefixToUse)
-    : folder(std::move(folderToFill)), prefix(std::move(prefixToUse)) {}
+PictureTaker::PictureTaker(QString folderToFill, QString prefixToUse, QSize screenToFill)
+    : folder(std::move(folderToFill)), prefix(std::move(prefixToUse)), screen(screenToFill) {}
 
 void PictureTaker::Take(QWidget& window, const char* name) {
     window.show();
     window.activateWindow();
     if (!QTest::qWaitForWindowActive(&window)) {
         throw std::runtime_error(std::string("The window does not become active for ") + name);
+    }
+    if (!screen.isEmpty()) {
+        window.resize(screen);
     }
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
