@@ -17,28 +17,13 @@ protected:
     /// Starts the program, gets past the message about the missing printer and opens a window by its access key.
     void OpenFromMenu(const char* keys, const QString& title, const QStringList& environment = {}) {
         Program = std::make_unique<RunningProgram>(Installed.Folder(), Installed.Edition.Executable, environment);
-        Program->Press(Installed.Edition.PrinterTitle, QStringLiteral("Return"));
+        Program->AnswerMessage(Installed.Edition.PrinterTitle);
         Program->Press(Menu, QString::fromLatin1(keys));
         Program->AwaitWindow(title);
     }
 
     /// Presses Tab until the control has the keyboard.
-    void TabTo(const QString& title, const char* control) {
-        const QString name = QString::fromLatin1(control);
-        constexpr int moreThanThereAreControls = 40;
-        for (int tabs = 0; tabs < moreThanThereAreControls; ++tabs) {
-            const SeenWindow seen = Program->AwaitWindow(title);
-            if (seen.Control(name).Focused) {
-                return;
-            }
-            Program->Press(title, QStringLiteral("Tab"));
-            Program->Await(QStringLiteral("the focus to move"), [&](const SeenScreen& screen) {
-                const SeenWindow* window = screen.Window(title);
-                return window != nullptr && FocusOf(*window) != FocusOf(seen);
-            });
-        }
-        ADD_FAILURE() << control << " cannot be reached by Tab";
-    }
+    void TabTo(const QString& title, const char* control) { Program->TabTo(title, QString::fromLatin1(control)); }
 
     void Type(const QString& title, const char* key, int times = 1) {
         for (int i = 0; i < times; ++i) {
@@ -66,16 +51,6 @@ protected:
 
     void AwaitText(const QString& title, const char* control, const char* text) {
         Program->AwaitText(title, QString::fromLatin1(control), QString::fromUtf8(text));
-    }
-
-private:
-    static QString FocusOf(const SeenWindow& window) {
-        for (const SeenControl& control : window.Controls) {
-            if (control.Focused) {
-                return control.Name;
-            }
-        }
-        return {};
     }
 };
 

@@ -80,7 +80,7 @@ protected:
         Program->AwaitText(Import, QStringLiteral("lblMatched"), QStringLiteral("Matched: %1 of 12").arg(count));
     }
     void MatchFields() {
-        TabTo(Import, "lblFieldList(1)");
+        Program->TabTo(Import, QStringLiteral("lblFieldList(1)"));
         GoDown(5);
         MatchHere(1); // the student number, the file's first column
         Program->Press(Import, QStringLiteral("Home"));

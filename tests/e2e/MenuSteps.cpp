@@ -1,7 +1,5 @@
 #include "tests/e2e/MenuSteps.h"
 
-#include "tests/e2e/Screen.h"
-
 #include <gtest/gtest.h>
 
 EditionNames NamesOf(const std::string& edition) {
@@ -12,21 +10,9 @@ QByteArray EditionGolden(const InstalledProgram& installed, const char* state) {
     return Golden(QStringLiteral("%1-%2.cfg").arg(installed.Edition.Component, QString::fromLatin1(state)));
 }
 
-// On a busy machine the box is the program's active window before its button takes the keys, and the display's before
-// or after that; a key pressed in between is lost.
-void AnswerPrinterMessage(RunningProgram& program, const InstalledProgram& installed) {
-    const QString& message = installed.Edition.PrinterTitle;
-    program.AwaitControl(message, QStringLiteral("OK"), QStringLiteral("to take the keyboard"),
-                         [](const auto& button) { return button.Focused; });
-    program.Await(QStringLiteral("the keys to reach \"%1\"").arg(message),
-                  [&message](const SeenScreen&) { return ActiveTitle() == message; });
-    program.Press(message, QStringLiteral("Return"));
-    program.AwaitNoWindow(message);
-}
-
 std::unique_ptr<RunningProgram> StartToMenu(const InstalledProgram& installed, const QStringList& environment) {
     auto program = std::make_unique<RunningProgram>(installed.Folder(), installed.Edition.Executable, environment);
-    AnswerPrinterMessage(*program, installed);
+    program->AnswerMessage(installed.Edition.PrinterTitle);
     program->AwaitWindow(installed.Edition.MenuTitle);
     return program;
 }

@@ -12,9 +12,6 @@ EditionNames NamesOf(const std::string& edition);
 /// The hand-written file of the installed edition in that state ("locked").
 QByteArray EditionGolden(const InstalledProgram& installed, const char* state);
 
-/// Answers the message about the missing printer, once the keys reach it.
-void AnswerPrinterMessage(RunningProgram& program, const InstalledProgram& installed);
-
 /// Starts the program and gets past the message about the missing printer.
 std::unique_ptr<RunningProgram> StartToMenu(const InstalledProgram& installed, const QStringList& environment = {});
 

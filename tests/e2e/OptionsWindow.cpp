@@ -12,15 +12,6 @@ QString Name(const char* text) {
     return QString::fromUtf8(text);
 }
 
-QString FocusOf(const SeenWindow& window) {
-    for (const SeenControl& control : window.Controls) {
-        if (control.Focused && !control.Name.startsWith(QLatin1String("qt_"))) {
-            return control.Name;
-        }
-    }
-    return {};
-}
-
 } // namespace
 
 OptionsWindow::OptionsWindow() : Installed(GetParam() == "french" ? FrenchNames() : EnglishNames()) {
@@ -66,23 +57,7 @@ void OptionsWindow::Press(const char* chord) {
 }
 
 void OptionsWindow::TabTo(const char* control) {
-    TabTo(Title, control);
-}
-
-void OptionsWindow::TabTo(const QString& window, const char* control) {
-    constexpr int moreThanThereAreControls = 60;
-    for (int tabs = 0; tabs < moreThanThereAreControls; ++tabs) {
-        const QString before = FocusOf(Program->AwaitWindow(window));
-        if (before == Name(control)) {
-            return;
-        }
-        Program->Press(window, QStringLiteral("Tab"));
-        Program->Await(QStringLiteral("the keyboard to leave ") + before, [&](const SeenScreen& screen) {
-            const SeenWindow* seen = screen.Window(window);
-            return seen != nullptr && FocusOf(*seen) != before;
-        });
-    }
-    FAIL() << control << " cannot be reached by Tab";
+    Program->TabTo(Title, Name(control));
 }
 
 void OptionsWindow::Work(const char* control, const char* chord) {
@@ -90,7 +65,7 @@ void OptionsWindow::Work(const char* control, const char* chord) {
 }
 
 void OptionsWindow::Work(const QString& window, const char* control, const char* chord) {
-    TabTo(window, control);
+    Program->TabTo(window, Name(control));
     Program->Press(window, Name(chord));
 }
 

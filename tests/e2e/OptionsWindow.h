@@ -28,10 +28,9 @@ protected:
 
     void Click(const char* control);
     void Press(const char* chord);
-    /// Presses Tab until the control has the keyboard, in this window or in the one of that title.
+    /// Presses Tab until the control has the keyboard.
     void TabTo(const char* control);
-    void TabTo(const QString& window, const char* control);
-    /// TabTo and then a key.
+    /// The same, in this window or in the one of that title, and then a key.
     void Work(const char* control, const char* chord);
     void Work(const QString& window, const char* control, const char* chord);
     void AwaitText(const char* control, const char* text);

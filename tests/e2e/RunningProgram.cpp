@@ -119,16 +119,15 @@ SeenWindow RunningProgram::AwaitWindow(const QString& title) {
         return window != nullptr && window->Active;
     };
     const SeenScreen seen = Await(QStringLiteral("the window \"%1\"").arg(title), active);
-    if (UnderWine()) { // whose windows are active before the display server gives them the keys
-        Await(QStringLiteral("the keys to reach \"%1\"").arg(title), [&title](const SeenScreen&) {
-            const QString keys = ActiveTitle();
-            if (keys.isEmpty()) { // behind one of its own file dialogs Wine leaves the display without a window for
-                                  // them
-                GiveKeysTo(title);
-            }
-            return keys == title;
-        });
-    }
+    // On a busy machine a window can be active before the display server gives it the keys; one pressed before is lost.
+    Await(QStringLiteral("the keys to reach \"%1\"").arg(title), [&title](const SeenScreen&) {
+        const QString keys = ActiveTitle();
+        if (keys.isEmpty() && UnderWine()) { // which leaves the display without a window for them behind one of its own
+                                             // file dialogs
+            GiveKeysTo(title);
+        }
+        return keys == title;
+    });
     return *seen.Window(title);
 }
 
@@ -169,6 +168,29 @@ void RunningProgram::Click(const QString& title, const QString& control) {
 void RunningProgram::Press(const QString& title, const QString& chord) {
     AwaitWindow(title);
     PressKey(chord);
+}
+
+void RunningProgram::AnswerMessage(const QString& title) {
+    AwaitControl(title, QStringLiteral("OK"), QStringLiteral("to take the keyboard"),
+                 [](const auto& button) { return button.Focused; });
+    Press(title, QStringLiteral("Return"));
+    AwaitNoWindow(title);
+}
+
+void RunningProgram::TabTo(const QString& title, const QString& control) {
+    constexpr int moreThanThereAreControls = 60;
+    for (int tabs = 0; tabs < moreThanThereAreControls; ++tabs) {
+        const QString before = AwaitWindow(title).Focus();
+        if (before == control) {
+            return;
+        }
+        Press(title, QStringLiteral("Tab"));
+        Await(QStringLiteral("the keyboard to leave ") + before, [&](const SeenScreen& screen) {
+            const SeenWindow* window = screen.Window(title);
+            return window != nullptr && window->Focus() != before;
+        });
+    }
+    Fail(QStringLiteral("%1 of \"%2\" cannot be reached by Tab").arg(control, title));
 }
 
 void RunningProgram::Enter(const QString& title, const QString& textBox, const QString& text) {

@@ -32,6 +32,10 @@ public:
     void Click(const QString& title, const QString& control);
     /// Presses a key or chord in the window, once it is active.
     void Press(const QString& title, const QString& chord);
+    /// Answers the message of that title with its OK button, by Return, once the button has the keyboard.
+    void AnswerMessage(const QString& title);
+    /// Presses Tab until the control has the keyboard.
+    void TabTo(const QString& title, const QString& control);
     /// Clicks a text box, replaces its text and waits until it shows the new one.
     void Enter(const QString& title, const QString& textBox, const QString& text);
     /// Whether the file dialog of that title has the keyboard, the toolkit's or the system's own (which the toolkit

@@ -71,6 +71,15 @@ bool SeenWindow::Has(const QString& nameOrText) const {
     return Find(*this, nameOrText) != nullptr;
 }
 
+QString SeenWindow::Focus() const {
+    for (const SeenControl& control : Controls) {
+        if (control.Focused && !control.Name.startsWith(QLatin1String("qt_"))) {
+            return control.Name;
+        }
+    }
+    return {};
+}
+
 const SeenWindow* SeenScreen::Window(const QString& title) const {
     for (const SeenWindow& window : Windows) {
         if (window.Title == title) {

@@ -30,6 +30,8 @@ struct SeenWindow {
     /// there are when there is none.
     const SeenControl& Control(const QString& nameOrText) const;
     bool Has(const QString& nameOrText) const;
+    /// The name of the control that has the keyboard; empty for none, and for the toolkit's own parts of one.
+    QString Focus() const;
 };
 
 /// Everything that the program shows at one moment.

@@ -1,4 +1,5 @@
-#include "tests/e2e/MenuSteps.h"
+#include "tests/e2e/InstalledProgram.h"
+#include "tests/e2e/RunningProgram.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +10,7 @@ TEST(SharpScreen, TogglesTheLockByMouseAtDoubleSize) {
     installed.Write(QStringLiteral("GW_v12_PRG.CFG"), Golden(QStringLiteral("start.cfg")));
     RunningProgram program(installed.Folder(), installed.Edition.Executable, {QStringLiteral("QT_SCALE_FACTOR=2")});
     const QString menu = installed.Edition.MenuTitle;
-    AnswerPrinterMessage(program, installed);
+    program.AnswerMessage(installed.Edition.PrinterTitle);
     EXPECT_GE(program.AwaitWindow(menu).Place.width(), 1600) << "800 logical pixels, doubled";
     program.Click(menu, QStringLiteral("imgUnlocked"));
     program.AwaitText(menu, QStringLiteral("lblLocked"), QStringLiteral("Locked"));

@@ -1,4 +1,5 @@
-#include "tests/e2e/MenuSteps.h"
+#include "tests/e2e/InstalledProgram.h"
+#include "tests/e2e/RunningProgram.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +21,7 @@ TEST(SmallScreen, GoesOnWithTheMenuOnCancel) {
     const InstalledProgram installed(EnglishNames());
     RunningProgram program(installed.Folder(), installed.Edition.Executable);
     program.Click(ScreenMessage, QStringLiteral("Cancel"));
-    AnswerPrinterMessage(program, installed);
+    program.AnswerMessage(installed.Edition.PrinterTitle);
     program.Press(installed.Edition.MenuTitle, installed.Edition.ExitKeys);
     EXPECT_EQ(program.AwaitEnd(), 0);
     EXPECT_TRUE(installed.Exists(QStringLiteral("GW_v12_PRG.CFG")));

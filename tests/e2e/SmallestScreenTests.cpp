@@ -1,4 +1,5 @@
-#include "tests/e2e/MenuSteps.h"
+#include "tests/e2e/InstalledProgram.h"
+#include "tests/e2e/RunningProgram.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +24,7 @@ void ExpectWholeOnScreen(RunningProgram& program, const QString& title, const ch
 TEST(SmallestScreen, IsTakenWithoutAMessage) {
     const InstalledProgram installed(EnglishNames());
     RunningProgram program(installed.Folder(), installed.Edition.Executable);
-    AnswerPrinterMessage(program, installed);
+    program.AnswerMessage(installed.Edition.PrinterTitle);
     ExpectWholeOnScreen(program, installed.Edition.MenuTitle, "cmdExit");
     program.Press(installed.Edition.MenuTitle, QStringLiteral("alt+g"));
     ExpectWholeOnScreen(program, installed.Edition.OptionsTitle, "cmdPrefSave");

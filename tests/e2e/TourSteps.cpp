@@ -31,7 +31,7 @@ TourSteps::TransferProgram::~TransferProgram() {
 void TourSteps::Go() {
     program.AwaitWindow(edition.PrinterTitle);
     TakePicture(edition.PrinterTitle, QStringLiteral("printer-message"));
-    program.Press(edition.PrinterTitle, QStringLiteral("Return"));
+    program.AnswerMessage(edition.PrinterTitle);
     program.AwaitWindow(edition.MenuTitle);
     TakePicture(edition.MenuTitle, QStringLiteral("main-menu"));
     ToggleLock();

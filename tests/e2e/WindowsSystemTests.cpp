@@ -106,7 +106,7 @@ TEST_F(WindowsSystem, TheTextEditorGetsAFolderWithACommaAsOneName) {
     Installed.Write(List, "E\r\n");
     Installed.Write(Installed.Edition.TransferProgram, "MZ");
     Program = std::make_unique<RunningProgram>(commaFolder, Installed.Edition.Executable);
-    Program->Press(Installed.Edition.PrinterTitle, QStringLiteral("Return"));
+    Program->AnswerMessage(Installed.Edition.PrinterTitle);
     const QString transfer = Menu + QStringLiteral(" - TRANSFER PROGRAM");
     Program->Press(Menu, QStringLiteral("alt+t"));
     Program->Click(transfer, QStringLiteral("cboSIS"));
