@@ -1,28 +1,12 @@
 #include "import/ReadingGuard.h"
 
+#include "platform/widgets/UserInput.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
 
 namespace {
-
-bool IsInput(const QEvent& event) {
-    switch (event.type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::Shortcut:
-    case QEvent::DragEnter:
-    case QEvent::Drop:
-        return true;
-    default:
-        return false;
-    }
-}
 
 bool IsEscape(const QEvent& event) {
     return event.type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
@@ -37,7 +21,7 @@ ReadingGuard::ReadingGuard(QWidget& windowToGuard, QWidget& cancelToPass)
 
 bool ReadingGuard::eventFilter(QObject* receiver, QEvent* event) {
     auto* widget = qobject_cast<QWidget*>(receiver);
-    if (widget == nullptr || widget->window() != &window || !IsInput(*event)) {
+    if (widget == nullptr || widget->window() != &window || !IsUserInput(*event)) {
         return false;
     }
     if (IsEscape(*event)) {

@@ -1,6 +1,7 @@
 #include "platform/widgets/OptionsWindow.h"
 
 #include "platform/widgets/ScreenFit.h"
+#include "platform/widgets/UserInput.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -9,19 +10,6 @@
 namespace {
 
 constexpr QSize WindowSize(800, 600); // logical pixels
-
-bool IsPress(QEvent::Type type) {
-    switch (type) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-        return true;
-    default:
-        return false;
-    }
-}
 
 // What was pressed while a window was saving comes when it has gone already, and Save would save once more.
 class NoPressesOnceClosed : public QObject {
@@ -32,7 +20,7 @@ public:
 
     bool eventFilter(QObject* receiver, QEvent* event) override {
         auto* control = qobject_cast<QWidget*>(receiver);
-        return IsPress(event->type()) && control != nullptr && control->window() == &window && !window.isVisible();
+        return IsUserInput(*event) && control != nullptr && control->window() == &window && !window.isVisible();
     }
 
 private:
