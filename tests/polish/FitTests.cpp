@@ -1,5 +1,6 @@
 #include "tests/polish/EveryWindow.h"
 #include "tests/screens/Clipped.h"
+#include "tests/screens/Palettes.h"
 #include "tests/support/PrintText.h"
 
 #include <QtWidgets>
@@ -8,7 +9,6 @@ namespace {
 
 constexpr QSize SmallestScreen(800, 600); // logical pixels
 constexpr QSize OrdinaryScreen(1366, 768);
-constexpr double LargerFont = 1.2;
 
 // Every window opens on the screen, fills it, and shows every text whole.
 void ExpectAllFitOn(const QSize& screen) {
@@ -36,11 +36,7 @@ TEST(Fit, AnOrdinaryScreen) {
 // A desktop whose letters are a fifth larger.
 class FitOfLargeLetters : public testing::Test {
 protected:
-    void SetUp() override {
-        QFont larger = usual;
-        larger.setPointSizeF(usual.pointSizeF() * LargerFont);
-        QApplication::setFont(larger);
-    }
+    void SetUp() override { QApplication::setFont(Larger(usual)); }
     void TearDown() override { QApplication::setFont(usual); }
 
 private:

@@ -32,3 +32,9 @@ void UsePalette(bool dark) {
     QApplication::style()->polish(palette);
     QApplication::setPalette(palette);
 }
+
+QFont Larger(QFont font) {
+    constexpr double aFifthMore = 1.2;
+    font.setPointSizeF(font.pointSizeF() * aFifthMore);
+    return font;
+}

@@ -16,14 +16,6 @@
 
 namespace {
 
-constexpr double LargerFont = 1.2;
-
-void UseLargerFont() {
-    QFont larger = QApplication::font();
-    larger.setPointSizeF(larger.pointSizeF() * LargerFont);
-    QApplication::setFont(larger);
-}
-
 /// The size in "800x600"; none for another text.
 QSize ScreenOf(const QString& text) {
     const QStringList sides = text.split(u'x');
@@ -49,7 +41,7 @@ int main(int argc, char** argv) {
     QApplication::setCursorFlashTime(0);
     UsePalette(arguments[2] == QLatin1String("dark"));
     if (isLarger) {
-        UseLargerFont();
+        QApplication::setFont(Larger(QApplication::font()));
     }
     const Edition edition = arguments[1] == QLatin1String("french") ? Edition::French : Edition::English;
     const int percent = qRound(qApp->devicePixelRatio() * 100);
