@@ -70,11 +70,12 @@ void SaveProgramConfig() {
     const QString older = QString::fromUtf16(OlderConfigFile);
     SystemError olderError;
     SystemError newerError;
+    // Both in one go, so that a slow share shows one notice; apart only where a message comes between them.
     TheDesktop().RunSave([&] {
         olderError = SaveOneFile(older, bytes);
         newerError = olderError ? SystemError() : SaveNewer(bytes);
     });
-    if (olderError) { // said before the newer file is touched
+    if (olderError) {
         ReportFailedSave(older, olderError);
         newerError = RunSave([&] { return SaveNewer(bytes); });
     }
