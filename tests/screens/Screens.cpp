@@ -54,6 +54,7 @@ int main(int argc, char** argv) {
         TakeImport(edition, pictures);
         TakeAdmin(edition, pictures);
         TakeTransfer(edition, pictures);
+        TakeSaving(edition, pictures);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return 1;

@@ -11,3 +11,5 @@ void TakeGeneralOptions(Edition edition, Viewer& viewer);
 void TakeImport(Edition edition, Viewer& viewer);
 void TakeAdmin(Edition edition, Viewer& viewer);
 void TakeTransfer(Edition edition, Viewer& viewer);
+/// The menu while a slow share lets a save wait.
+void TakeSaving(Edition edition, Viewer& viewer);
