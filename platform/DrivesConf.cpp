@@ -45,12 +45,12 @@ QString AddLine(DriveTable& drives, const QByteArray& line, CaptionLanguage lang
     const QByteArray folder = WithoutSlashes(WithoutBlanks(line.mid(equals + 1)));
     const NativePath native = NativeFromBytes(folder);
     if (!native.is_absolute() || folder.contains('\0')) {
-        return InLanguage(language, "The folder is no whole path from the root.",
-                          "Le dossier n'est pas un chemin complet depuis la racine.");
+        return InLanguage(language, "The folder is not a full path such as \"/srv/gradebook\".",
+                          "Le dossier n'est pas un chemin complet comme « /srv/carnet ».");
     }
     if (drives.contains(letter)) {
-        return InLanguage(language, "The drive %1 stands in a line before.",
-                          "Le lecteur %1 figure déjà dans une ligne précédente.")
+        return InLanguage(language, "An earlier line already gives drive %1.",
+                          "Une ligne précédente donne déjà le lecteur %1.")
             .arg(letter.toUpper());
     }
     drives.insert(letter, native);

@@ -63,15 +63,15 @@ TEST(DrivesConf, SkipsABadLineAndNamesIt) {
         {"\xC3\x89=/srv", "letter"},
         {"/srv", "letter"},
         {"G", "letter"},
-        {"G=", "root"},
-        {"G= ", "root"},
-        {"G=srv", "root"},
-        {"G=./srv", "root"},
-        {"G=~/srv", "root"},
-        {"G=d:\\x", "root"},
+        {"G=", "full path"},
+        {"G= ", "full path"},
+        {"G=srv", "full path"},
+        {"G=./srv", "full path"},
+        {"G=~/srv", "full path"},
+        {"G=d:\\x", "full path"},
         {"f=/again", "drive F"},
-        {"G=\"/srv\"", "root"},
-        {QByteArray("G=/s\0rv", 7), "root"},
+        {"G=\"/srv\"", "full path"},
+        {QByteArray("G=/s\0rv", 7), "full path"},
     };
     for (const auto& row : cases) {
         const DrivesConf conf = ReadDrivesConf("# first\r\nF=/first\r\n\r\n" + row.Line + "\r\nH=/last\r\n");
@@ -162,8 +162,8 @@ TEST(ProgramDrives, ComplaintsOfTheFrenchEditionAreFrench) {
         QStringList Parts;
     } cases[] = {
         {"bad\n", {Text("La ligne 1 de drives.conf est ignorée"), Text("[bad]"), Text("lettre de lecteur")}},
-        {"G=srv\n", {Text("La ligne 1"), Text("[G=srv]"), Text("depuis la racine")}},
-        {"G=/a\ng=/b\n", {Text("La ligne 2"), Text("Le lecteur G figure déjà")}},
+        {"G=srv\n", {Text("La ligne 1"), Text("[G=srv]"), Text("chemin complet")}},
+        {"G=/a\ng=/b\n", {Text("La ligne 2"), Text("donne déjà le lecteur G")}},
     };
     TestFolder folder;
     const NativePath program = folder.Native(Text("c:\\"));
