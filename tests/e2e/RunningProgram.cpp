@@ -50,6 +50,11 @@ void AwaitFileDialog(RunningProgram& program, const QString& title) {
                   [&](const SeenScreen&) { return program.FileDialogIsOpen(title); });
 }
 
+// Under Wine a drag that has just begun answers nothing before the next move: no hand holds a mouse quite still.
+std::function<void()> Tremble(const QPoint& place) {
+    return [place, aside = 0]() mutable { MoveMouseTo(place + QPoint(aside = 1 - aside, 0)); };
+}
+
 } // namespace
 
 RunningProgram::RunningProgram(const QString& folder, const QString& executable, const QStringList& environment) {
@@ -79,7 +84,8 @@ RunningProgram::~RunningProgram() {
     }
 }
 
-SeenScreen RunningProgram::Look() {
+// Calls `waiting` every 100 ms until the program answers.
+SeenScreen RunningProgram::LookWhile(const std::function<void()>& waiting) {
     process.write("?");
     QElapsedTimer clock;
     clock.start();
@@ -90,16 +96,19 @@ SeenScreen RunningProgram::Look() {
         if (clock.elapsed() > Patience) {
             Fail(QStringLiteral("The program does not answer"));
         }
-        process.waitForReadyRead(100);
+        if (!process.waitForReadyRead(100) && waiting) {
+            waiting();
+        }
     }
     return ReadAnswer(process.readLine());
 }
 
-SeenScreen RunningProgram::Await(const QString& what, const std::function<bool(const SeenScreen&)>& condition) {
+SeenScreen RunningProgram::AwaitWhile(const std::function<void()>& waiting, const QString& what,
+                                      const std::function<bool(const SeenScreen&)>& condition) {
     QElapsedTimer clock;
     clock.start();
     for (;;) {
-        SeenScreen seen = Look();
+        SeenScreen seen = LookWhile(waiting);
         if (condition(seen)) {
             return seen;
         }
@@ -155,14 +164,64 @@ SeenControl RunningProgram::AwaitText(const QString& title, const QString& contr
                         [&text](const SeenControl& seen) { return seen.Text == text; });
 }
 
-void RunningProgram::Click(const QString& title, const QString& control) {
+QPoint RunningProgram::MiddleOf(const QString& title, const QString& control) {
     const SeenControl seen =
-        AwaitControl(title, control, QStringLiteral("to be ready for a click"),
+        AwaitControl(title, control, QStringLiteral("to be ready for the mouse"),
                      [](const auto& now) { return now.Visible && now.Enabled && !now.Place.isEmpty(); });
     if (!seen.CoveredBy.isEmpty()) {
         Fail(QStringLiteral("%1 of \"%2\" cannot be clicked: %3 lies over it").arg(control, title, seen.CoveredBy));
     }
-    ClickAt(seen.Place.center());
+    return seen.Place.center();
+}
+
+void RunningProgram::Click(const QString& title, const QString& control) {
+    ClickAt(MiddleOf(title, control));
+}
+
+void RunningProgram::DoubleClick(const QString& title, const QString& control) {
+    DoubleClickAt(MiddleOf(title, control));
+}
+
+void RunningProgram::MoveMouse(const QPoint& from, const QPoint& to) {
+    constexpr int Steps = 4;
+    for (int step = 1; step <= Steps; ++step) {
+        const QPoint place = from + (to - from) * step / Steps;
+        MoveMouseTo(place);
+        LookWhile(Tremble(place)); // gives the program time for each
+    }
+}
+
+void RunningProgram::Drag(const QString& title, const QString& control, const QString& target) {
+    const auto awaitDrags = [&](const QPoint& place, const QString& what, int drags) {
+        AwaitWhile(Tremble(place), QStringLiteral("the drag of %1 to ").arg(control) + what,
+                   [&](const SeenScreen& screen) {
+                       const SeenWindow* window = screen.Window(title);
+                       return window != nullptr && window->Drags == drags;
+                   });
+    };
+    const QPoint from = MiddleOf(title, control);
+    const QPoint to = MiddleOf(title, target);
+    const QPoint between = (from + to) / 2;
+    const int before = AwaitWindow(title).Drags;
+    PressButtonAt(from);
+    MoveMouse(from, between);
+    awaitDrags(between, QStringLiteral("begin"), before + 1);
+    MoveMouse(between, to);
+    ReleaseButton();
+    if (UnderWine()) {
+        awaitDrags(to, QStringLiteral("end"), before);
+    }
+}
+
+void RunningProgram::DragInVain(const QString& title, const QString& control, const QString& target) {
+    const SeenWindow window = AwaitWindow(title);
+    PressButtonAt(window.Control(control).Place.center());
+    MoveMouse(window.Control(control).Place.center(), window.Control(target).Place.center());
+    const bool begun = AwaitWindow(title).Drags > window.Drags;
+    ReleaseButton();
+    if (begun) {
+        Fail(QStringLiteral("%1 of \"%2\" can be dragged").arg(control, title));
+    }
 }
 
 void RunningProgram::Press(const QString& title, const QString& chord) {

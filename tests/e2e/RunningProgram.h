@@ -17,9 +17,11 @@ public:
     ~RunningProgram();
 
     /// What is on the screen now.
-    SeenScreen Look();
+    SeenScreen Look() { return LookWhile({}); }
     /// Waits until the condition holds; `what` names it in the message of a failure.
-    SeenScreen Await(const QString& what, const std::function<bool(const SeenScreen&)>& condition);
+    SeenScreen Await(const QString& what, const std::function<bool(const SeenScreen&)>& condition) {
+        return AwaitWhile({}, what, condition);
+    }
     /// Waits until the window of that title has the keyboard.
     SeenWindow AwaitWindow(const QString& title);
     void AwaitNoWindow(const QString& title);
@@ -30,6 +32,12 @@ public:
 
     /// Clicks the middle of a control with the mouse, once its window is active and it can be seen and used.
     void Click(const QString& title, const QString& control);
+    void DoubleClick(const QString& title, const QString& control);
+    /// Drags the middle of a control to the middle of another, as a hand does: the button goes up when the drag has
+    /// begun and is over the other one.
+    void Drag(const QString& title, const QString& control, const QString& target);
+    /// The same with a control that starts no drag.
+    void DragInVain(const QString& title, const QString& control, const QString& target);
     /// Presses a key or chord in the window, once it is active.
     void Press(const QString& title, const QString& chord);
     /// Answers the message of that title with its OK button, by Return, once the button has the keyboard.
@@ -52,6 +60,13 @@ public:
     int AwaitEnd();
 
 private:
+    /// Where the mouse reaches the control, once that can be used.
+    QPoint MiddleOf(const QString& title, const QString& control);
+    void MoveMouse(const QPoint& from, const QPoint& to);
+    SeenScreen LookWhile(const std::function<void()>& waiting);
+    SeenScreen AwaitWhile(const std::function<void()>& waiting, const QString& what,
+                          const std::function<bool(const SeenScreen&)>& condition);
+
     QTemporaryDir home;
     QProcess process;
 };

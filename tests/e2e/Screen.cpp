@@ -53,17 +53,16 @@ void DoubleClickAt(const QPoint& place) {
                                          QStringLiteral("--delay"), QStringLiteral("20"), QStringLiteral("1")});
 }
 
-void DragFromTo(const QPoint& from, const QPoint& to) {
-    SendEvents(Move(from) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")});
-    constexpr int Moves = 8;
-    for (int step = 1; step <= Moves; ++step) {
-        SendEvents(Move(from + (to - from) * step / Moves));
-    }
+void PressButtonAt(const QPoint& place) {
+    SendEvents(Move(place) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")});
+}
+
+void MoveMouseTo(const QPoint& place) {
+    SendEvents(Move(place));
+}
+
+void ReleaseButton() {
     SendEvents({QStringLiteral("mouseup"), QStringLiteral("1")});
-    // A drag that began after the button was up already ends with the next move (as under Wine on a busy machine).
-    for (int step = 1; step <= Moves; ++step) {
-        SendEvents(Move(to + QPoint(step % 2, 0)));
-    }
 }
 
 int MouseMoves() {

@@ -10,8 +10,10 @@
 
 void ClickAt(const QPoint& place);
 void DoubleClickAt(const QPoint& place);
-/// Presses the left button at one place and releases it at another, with moves between.
-void DragFromTo(const QPoint& from, const QPoint& to);
+/// The three parts of a drag with the left button.
+void PressButtonAt(const QPoint& place);
+void MoveMouseTo(const QPoint& place);
+void ReleaseButton();
 /// How many times the mouse was moved so far: a test without the mouse sees none.
 int MouseMoves();
 /// Presses a key or chord, such as "Tab", "alt+x" or "shift+Tab".

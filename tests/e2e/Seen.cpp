@@ -32,6 +32,7 @@ SeenWindow WindowOf(const QJsonObject& described) {
     window.Name = described[QStringLiteral("name")].toString();
     window.Title = described[QStringLiteral("title")].toString();
     window.Active = described[QStringLiteral("active")].toBool();
+    window.Drags = described[QStringLiteral("drags")].toInt();
     window.Place = RectangleOf(described[QStringLiteral("place")]);
     for (const auto& control : described[QStringLiteral("controls")].toArray()) {
         window.Controls.append(ControlOf(control.toObject()));

@@ -23,6 +23,7 @@ struct SeenWindow {
     QString Name;
     QString Title;
     bool Active = false; ///< it has the keyboard
+    int Drags = 0;       ///< the drags that it has begun; X11 keeps those that are over for a while
     QRect Place;         ///< with its frame
     QList<SeenControl> Controls;
 

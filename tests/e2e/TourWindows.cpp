@@ -67,19 +67,17 @@ void TourSteps::PassFileOfSettings(const QString& title) {
 
 // By drag and drop, by double click and by the keyboard.
 void TourSteps::MatchFields(const QString& title) {
-    const auto middle = [&](const QString& control) {
-        return program.AwaitWindow(title).Control(control).Place.center();
-    };
+    const QString grid = QStringLiteral("grdImport");
     const auto await = [&](int count) {
         program.AwaitText(title, QStringLiteral("lblMatched"), QStringLiteral("Matched: %1 of 12").arg(count));
     };
-    DragFromTo(middle(FieldName(6)), middle(QStringLiteral("grdImport")));
+    program.Drag(title, FieldName(6), grid);
     await(1);
-    DoubleClickAt(middle(FieldName(1)));
+    program.DoubleClick(title, FieldName(1));
     await(2);
-    DoubleClickAt(middle(FieldName(2)));
+    program.DoubleClick(title, FieldName(2));
     await(3);
-    DoubleClickAt(middle(FieldName(4)));
+    program.DoubleClick(title, FieldName(4));
     await(4);
     program.AwaitControl(title, FieldName(5), QStringLiteral("to take the keyboard"),
                          [](const auto& seen) { return seen.Focused; });
@@ -89,7 +87,7 @@ void TourSteps::MatchFields(const QString& title) {
     TakePicture(title, QStringLiteral("import-field-chosen"));
     program.Press(title, QStringLiteral("space"));
     await(5);
-    DragFromTo(middle(FieldName(5)), middle(QStringLiteral("grdImport")));
+    program.Drag(title, FieldName(5), grid);
     await(6);
 }
 

@@ -142,9 +142,9 @@ TEST_F(WindowsSystem, AStudentFileMayLieOnAShare) {
     Program->Press(Menu, QStringLiteral("alt+i"));
     Program->AwaitText(import, QStringLiteral("lblFileName"), students);
     Program->AwaitText(import, QStringLiteral("lblMatched"), QStringLiteral("Matched: 0 of 3"));
-    DoubleClickAt(Program->AwaitWindow(import).Control(QStringLiteral("lblFieldList(1)")).Place.center());
+    Program->DoubleClick(import, QStringLiteral("lblFieldList(1)"));
     Program->AwaitText(import, QStringLiteral("lblMatched"), QStringLiteral("Matched: 1 of 3"));
-    DoubleClickAt(Program->AwaitWindow(import).Control(QStringLiteral("lblFieldList(2)")).Place.center());
+    Program->DoubleClick(import, QStringLiteral("lblFieldList(2)"));
     Program->AwaitText(import, QStringLiteral("lblMatched"), QStringLiteral("Matched: 2 of 3"));
     Program->Press(import, QStringLiteral("alt+s"));
     Program->AwaitWindow(Menu);

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDrag>
 #include <QFile>
 #include <QGenericPlugin>
 #include <QJsonArray>
@@ -70,6 +71,7 @@ QJsonObject DescribeWindow(const QWidget& window) {
     return {{QStringLiteral("name"), window.objectName()},
             {QStringLiteral("title"), window.windowTitle()},
             {QStringLiteral("active"), window.isActiveWindow()},
+            {QStringLiteral("drags"), static_cast<int>(window.findChildren<QDrag*>().size())},
             {QStringLiteral("place"), DevicePixels(window.frameGeometry(), window.devicePixelRatioF())},
             {QStringLiteral("controls"), controls}};
 }
