@@ -32,7 +32,7 @@ void frmImport_SU::ShowImportRecord(std::int64_t wanted) {
 // Somebody wrote to the file: the places of its lines are counted again before a record is read.
 ImportFile::Result frmImport_SU::FileHasChanged(std::int64_t& wanted, ImportRecord& record) {
     BeginReading();
-    const ImportFile::Result counted = CountRecords();
+    ImportFile::Result counted = CountRecords();
     if (counted.What == ImportFile::Outcome::Failed) {
         return counted;
     }
