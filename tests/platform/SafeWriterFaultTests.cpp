@@ -2,6 +2,7 @@
 #include "tests/support/FaultyCalls.h"
 #include "tests/support/TestFolder.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -147,6 +148,19 @@ TEST(SafeWriterFaults, EveryCallFailsFromSomeMomentOn) {
             }
         }
     }
+}
+
+TEST(SafeWriterFaults, ADiskThatFillsUpWhileAFileGrowsInPlaceLeavesItsText) {
+    const Save save{"longer, in place", false, Short, Long, true, false};
+    Scene healthy(save);
+    EXPECT_FALSE(SafeSave(healthy.Calls, healthy.Path, save.New));
+    const std::vector<Kind>& made = healthy.Calls.Made;
+    const int firstWrite = static_cast<int>(std::find(made.begin(), made.end(), Kind::Write) - made.begin()) + 1;
+    Scene scene(save);
+    scene.Calls.ShortenCall(firstWrite);
+    scene.Calls.FailCall(firstWrite + 1, ENOSPC, Repeat::Onwards);
+    EXPECT_EQ(SafeSave(scene.Calls, scene.Path, save.New).Number, 61);
+    EXPECT_TRUE(scene.IsOld() || scene.HasLineEnds());
 }
 
 TEST(SafeWriterFaults, AKillAtAnyCallLeavesOldOrNewAndTheNextSaveTidiesUp) {
