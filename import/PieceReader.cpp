@@ -1,9 +1,9 @@
 #include "import/PieceReader.h"
 
+#include <QDeadlineTimer>
+#include <QMutex>
+#include <QWaitCondition>
 #include <array>
-#include <chrono>
-#include <condition_variable>
-#include <mutex>
 #include <vector>
 
 namespace {
@@ -20,8 +20,8 @@ struct PieceReader::Shared {
         std::int64_t Size = 0;
     };
 
-    std::mutex Lock;
-    std::condition_variable Changed;
+    QMutex Lock;
+    QWaitCondition Changed;
     std::array<Room, PieceCount> Rooms;
     std::size_t Filled = 0;  // so many pieces have been read,
     std::size_t Given = 0;   // so many handed over,
@@ -37,8 +37,10 @@ struct PieceReader::Shared {
 
 // False when nobody needs the pieces any more.
 bool PieceReader::Shared::AwaitEmptyRoom() {
-    std::unique_lock guard(Lock);
-    Changed.wait(guard, [this] { return Left || Filled - Emptied < PieceCount; });
+    const QMutexLocker guard(&Lock);
+    while (!Left && Filled - Emptied == PieceCount) {
+        Changed.wait(&Lock);
+    }
     return !Left;
 }
 
@@ -46,7 +48,7 @@ void PieceReader::Shared::ReadFile(const QString& path) {
     RandomAccessFile file;
     SystemError error = file.Open(path);
     {
-        const std::lock_guard guard(Lock);
+        const QMutexLocker guard(&Lock);
         Stamp = error ? FileStamp() : file.Stamp();
     }
     std::int64_t offset = 0;
@@ -57,31 +59,32 @@ void PieceReader::Shared::ReadFile(const QString& path) {
         error = file.ReadAt(offset, room.Bytes.data(), PieceSize, room.Size);
         offset += room.Size;
         more = !error && room.Size == PieceSize;
-        const std::lock_guard guard(Lock);
+        const QMutexLocker guard(&Lock);
         ++Filled;
-        Changed.notify_all();
+        Changed.wakeAll();
     }
-    const std::lock_guard guard(Lock);
+    const QMutexLocker guard(&Lock);
     Error = error;
     Ended = true;
-    Changed.notify_all();
+    Changed.wakeAll();
 }
 
 PieceReader::PieceReader(const QString& path)
     : shared(std::make_shared<Shared>()), thread([kept = shared, path] { kept->ReadFile(path); }) {}
 
 PieceReader::~PieceReader() {
-    const std::lock_guard guard(shared->Lock);
+    const QMutexLocker guard(&shared->Lock);
     shared->Left = true;
-    shared->Changed.notify_all();
+    shared->Changed.wakeAll();
 }
 
 PieceReader::Piece PieceReader::Next(int milliseconds) {
-    std::unique_lock guard(shared->Lock);
+    const QDeadlineTimer deadline(milliseconds);
+    const QMutexLocker guard(&shared->Lock);
     shared->Emptied = shared->Given;
-    shared->Changed.notify_all();
-    shared->Changed.wait_for(guard, std::chrono::milliseconds(milliseconds),
-                             [this] { return shared->Filled > shared->Given || shared->Ended; });
+    shared->Changed.wakeAll();
+    while (shared->Filled == shared->Given && !shared->Ended && shared->Changed.wait(&shared->Lock, deadline)) {
+    }
     if (shared->Filled > shared->Given) {
         const Shared::Room& room = shared->Rooms[shared->Given++ % PieceCount];
         return {State::Read, room.Bytes.data(), room.Size};
@@ -90,11 +93,11 @@ PieceReader::Piece PieceReader::Next(int milliseconds) {
 }
 
 FileStamp PieceReader::Stamp() const {
-    const std::lock_guard guard(shared->Lock);
+    const QMutexLocker guard(&shared->Lock);
     return shared->Stamp;
 }
 
 SystemError PieceReader::Error() const {
-    const std::lock_guard guard(shared->Lock);
+    const QMutexLocker guard(&shared->Lock);
     return shared->Error;
 }

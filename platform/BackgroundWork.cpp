@@ -1,18 +1,18 @@
 #include "platform/BackgroundWork.h"
 
-#include <chrono>
-#include <condition_variable>
-#include <mutex>
-#include <system_error>
-#include <thread>
+#include "platform/DetachedThread.h"
+
+#include <QDeadlineTimer>
+#include <QMutex>
+#include <QWaitCondition>
 #include <utility>
 
 namespace {
 
 /// How much work goes on. Never destroyed: work may still go on when the program ends.
 struct Running {
-    std::mutex lock;
-    std::condition_variable lessened;
+    QMutex lock;
+    QWaitCondition lessened;
     int count = 0;
 };
 
@@ -23,48 +23,52 @@ Running& AllWork() {
 
 void CountWork(int change) {
     Running& running = AllWork();
-    const std::lock_guard guard(running.lock);
+    const QMutexLocker guard(&running.lock);
     running.count += change;
-    running.lessened.notify_all();
+    running.lessened.wakeAll();
 }
 
 } // namespace
 
 struct BackgroundWork::State {
-    std::mutex lock;
-    std::condition_variable ended;
+    QMutex lock;
+    QWaitCondition ended;
     bool hasEnded = false;
 
     void Do(std::function<void()> work) {
         work();
         work = nullptr; // what it owned goes before anybody is told
-        const std::lock_guard guard(lock);
+        const QMutexLocker guard(&lock);
         hasEnded = true;
-        ended.notify_all();
+        ended.wakeAll();
     }
 };
 
 BackgroundWork::BackgroundWork(std::function<void()> work) : state(std::make_shared<State>()) {
     CountWork(1);
-    try {
-        std::thread([kept = state, work]() mutable {
-            kept->Do(std::exchange(work, nullptr));
-            kept.reset();
-            CountWork(-1);
-        }).detach();
-    } catch (const std::system_error&) {
+    const bool started = StartDetachedThread([kept = state, work]() mutable {
+        kept->Do(std::exchange(work, nullptr));
+        kept.reset();
+        CountWork(-1);
+    });
+    if (!started) {
         state->Do(std::move(work));
         CountWork(-1);
     }
 }
 
 bool BackgroundWork::Wait(int milliseconds) const {
-    std::unique_lock guard(state->lock);
-    return state->ended.wait_for(guard, std::chrono::milliseconds(milliseconds), [this] { return state->hasEnded; });
+    const QDeadlineTimer deadline(milliseconds);
+    const QMutexLocker guard(&state->lock);
+    while (!state->hasEnded && state->ended.wait(&state->lock, deadline)) {
+    }
+    return state->hasEnded;
 }
 
 void AwaitBackgroundWork() {
     Running& running = AllWork();
-    std::unique_lock guard(running.lock);
-    running.lessened.wait(guard, [&] { return running.count == 0; });
+    const QMutexLocker guard(&running.lock);
+    while (running.count > 0) {
+        running.lessened.wait(&running.lock);
+    }
 }

@@ -1,28 +1,30 @@
 #include "platform/SaveThread.h"
 
-#include <chrono>
-#include <condition_variable>
-#include <mutex>
-#include <system_error>
-#include <thread>
+#include "platform/DetachedThread.h"
+
+#include <QDeadlineTimer>
+#include <QMutex>
+#include <QWaitCondition>
 
 namespace {
 
 /// What the thread and its only caller share. Never destroyed: the thread waits on it when the program ends.
 struct Worker {
-    std::mutex lock;
-    std::condition_variable changed;
+    QMutex lock;
+    QWaitCondition changed;
     const std::function<void()>* save = nullptr; // what is being done; null between two saves
 
     void Run() {
-        std::unique_lock guard(lock);
+        QMutexLocker guard(&lock);
         for (;;) {
-            changed.wait(guard, [this] { return save != nullptr; });
+            while (save == nullptr) {
+                changed.wait(&lock);
+            }
             guard.unlock();
             (*save)();
-            guard.lock();
+            guard.relock();
             save = nullptr;
-            changed.notify_all();
+            changed.wakeAll();
         }
     }
 };
@@ -31,13 +33,11 @@ struct Worker {
 Worker* StartedWorker() {
     static Worker* const worker = []() -> Worker* {
         auto* const made = new Worker;
-        try {
-            std::thread([made] { made->Run(); }).detach();
-        } catch (const std::system_error&) {
-            delete made;
-            return nullptr;
+        if (StartDetachedThread([made] { made->Run(); })) {
+            return made;
         }
-        return made;
+        delete made;
+        return nullptr;
     }();
     return worker;
 }
@@ -53,10 +53,12 @@ SaveThread::SaveThread(const std::function<void()>& save) {
         save();
         return;
     }
-    std::unique_lock guard(worker->lock);
-    worker->changed.wait(guard, [worker] { return worker->save == nullptr; });
+    const QMutexLocker guard(&worker->lock);
+    while (worker->save != nullptr) {
+        worker->changed.wait(&worker->lock);
+    }
     worker->save = &save;
-    worker->changed.notify_all();
+    worker->changed.wakeAll();
 }
 
 bool SaveThread::Wait(int milliseconds) {
@@ -64,7 +66,9 @@ bool SaveThread::Wait(int milliseconds) {
     if (worker == nullptr) {
         return true;
     }
-    std::unique_lock guard(worker->lock);
-    return worker->changed.wait_for(guard, std::chrono::milliseconds(milliseconds),
-                                    [worker] { return worker->save == nullptr; });
+    const QDeadlineTimer deadline(milliseconds);
+    const QMutexLocker guard(&worker->lock);
+    while (worker->save != nullptr && worker->changed.wait(&worker->lock, deadline)) {
+    }
+    return worker->save == nullptr;
 }

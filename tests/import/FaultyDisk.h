@@ -2,10 +2,10 @@
 
 #include "platform/SystemCalls.h"
 
+#include <QMutex>
+#include <QWaitCondition>
 #include <atomic>
 #include <cerrno>
-#include <condition_variable>
-#include <mutex>
 
 /// The system's own calls, except that reading and writing can be made to fail, and reading to hang as that of a
 /// stalled share does.
@@ -20,18 +20,18 @@ public:
 
     /// After so many more reads, the next ones hang.
     void StallAfter(int reads) {
-        const std::lock_guard guard(lock);
+        const QMutexLocker guard(&lock);
         readsBeforeStall = reads;
     }
     /// Reads that hang come back, and no more will hang.
     void Recover() {
-        const std::lock_guard guard(lock);
+        const QMutexLocker guard(&lock);
         readsBeforeStall = -1;
-        recovered.notify_all();
+        recovered.wakeAll();
     }
     /// Whether a read hangs now.
     bool IsStalled() {
-        const std::lock_guard guard(lock);
+        const QMutexLocker guard(&lock);
         return hanging > 0;
     }
 
@@ -76,15 +76,17 @@ public:
 
 private:
     SystemCalls& real = RealSystemCalls();
-    std::mutex lock;
-    std::condition_variable recovered;
+    QMutex lock;
+    QWaitCondition recovered;
     int readsBeforeStall = -1; // never
     int hanging = 0;
 
     void HangWhileStalled() {
-        std::unique_lock guard(lock);
+        const QMutexLocker guard(&lock);
         ++hanging;
-        recovered.wait(guard, [this] { return readsBeforeStall != 0; });
+        while (readsBeforeStall == 0) {
+            recovered.wait(&lock);
+        }
         --hanging;
         readsBeforeStall -= readsBeforeStall > 0 ? 1 : 0;
     }

@@ -52,6 +52,23 @@ TEST_F(PieceReaderTest, GivesTheWholeFileWhateverItsSize) {
     }
 }
 
+// Whoever waits and whoever tells meet at every possible moment.
+TEST_F(PieceReaderTest, MissesNoEndHoweverShortTheWait) {
+    constexpr int Readings = 3000;
+    const QByteArray bytes = Numbers(200);
+    folder.Write(path, bytes);
+    for (int reading = 0; reading < Readings; ++reading) {
+        PieceReader reader(path);
+        QByteArray came;
+        PieceReader::Piece piece;
+        while (piece.What != PieceReader::State::Ended) {
+            piece = reader.Next(reading % 3);
+            came.append(piece.Bytes, piece.Size);
+        }
+        ASSERT_TRUE(bytes == came) << reading;
+    }
+}
+
 TEST_F(PieceReaderTest, TellsWhyTheFileCannotBeOpened) {
     folder.MakeFolder(Text("c:\\school"));
     PieceReader reader(path);

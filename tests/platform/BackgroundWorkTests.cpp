@@ -1,7 +1,8 @@
 #include "platform/BackgroundWork.h"
 
+#include <QMutex>
+#include <atomic>
 #include <gtest/gtest.h>
-#include <mutex>
 #include <thread>
 
 namespace {
@@ -25,12 +26,12 @@ TEST(BackgroundWorkTest, GivesUpWhatItOwnedBeforeItTells) {
 }
 
 TEST(BackgroundWorkTest, LeavesWorkThatHangsToItself) {
-    const auto gate = std::make_shared<std::mutex>();
+    const auto gate = std::make_shared<QMutex>();
     const auto done = std::make_shared<bool>(false);
     {
-        const std::lock_guard closed(*gate);
+        const QMutexLocker closed(gate.get());
         const BackgroundWork work([gate, done] {
-            const std::lock_guard passed(*gate);
+            const QMutexLocker passed(gate.get());
             *done = true;
         });
         EXPECT_FALSE(work.Wait(0));
@@ -38,6 +39,19 @@ TEST(BackgroundWorkTest, LeavesWorkThatHangsToItself) {
     }
     AwaitBackgroundWork();
     EXPECT_TRUE(*done);
+}
+
+// The ends of threads meet the starts of others at every possible moment.
+TEST(BackgroundWorkTest, LosesNoWorkHoweverShort) {
+    constexpr int Times = 2000;
+    const auto done = std::make_shared<std::atomic<int>>(0);
+    for (int time = 1; time <= Times; ++time) {
+        const BackgroundWork unwatched([done] { ++*done; });
+        const BackgroundWork work([done] { ++*done; });
+        ASSERT_TRUE(work.Wait(LongWait)) << time;
+    }
+    AwaitBackgroundWork();
+    EXPECT_EQ(2 * Times, *done);
 }
 
 TEST(BackgroundWorkTest, WaitsForNothingWhenNothingGoesOn) {

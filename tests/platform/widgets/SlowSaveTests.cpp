@@ -7,8 +7,8 @@
 #include "tests/support/WindowInput.h"
 
 #include <QAccessible>
-#include <condition_variable>
-#include <mutex>
+#include <QMutex>
+#include <QWaitCondition>
 
 // What the desktop of the running program does while a save takes long.
 
@@ -24,8 +24,10 @@ protected:
                  Calls, language),
           Before(InstallDesktop(&Screen)), Button(new QPushButton(QStringLiteral("Press"), &Window)) {
         Calls.Before = [this](FaultyCalls::Kind kind) {
-            std::unique_lock guard(Lock);
-            Recovered.wait(guard, [&] { return kind != FaultyCalls::Kind::Sync || !Stalled; });
+            const QMutexLocker guard(&Lock);
+            while (kind == FaultyCalls::Kind::Sync && Stalled) {
+                Recovered.wait(&Lock);
+            }
         };
         QObject::connect(Button, &QPushButton::clicked, [this] { ++Clicks; });
         QObject::connect(&Watch, &QTimer::timeout, [this] { RecoverOnceShown(); });
@@ -57,8 +59,8 @@ protected:
     int TimesShown = 0;
 
 private:
-    std::mutex Lock;
-    std::condition_variable Recovered;
+    QMutex Lock;
+    QWaitCondition Recovered;
     bool Stalled = false;
     QTimer Watch;
     std::function<void()> WhileShown;
@@ -70,9 +72,9 @@ private:
         Watch.stop();
         ++TimesShown;
         WhileShown();
-        const std::lock_guard guard(Lock);
+        const QMutexLocker guard(&Lock);
         Stalled = false;
-        Recovered.notify_all();
+        Recovered.wakeAll();
     }
 };
 
