@@ -28,7 +28,7 @@ QByteArray OptionsWindow::State(const char* state) const {
 
 // A path on g: as the program shows it here.
 QString OptionsWindow::Placed(const char* shown) const {
-    const QString text = Name(shown);
+    QString text = Name(shown);
     if (!UnderWine() || !text.startsWith(NetworkDrive)) {
         return text;
     }

@@ -65,7 +65,7 @@ int main(int argc, char** argv) {
         std::fputs("Usage: tour english|french PROGRAM-FOLDER PICTURE-FOLDER\n", stderr);
         return 2;
     }
-    const QString folder = arguments[2];
+    const QString& folder = arguments[2];
     const QString pictures = QDir(arguments[3]).absolutePath();
     const EditionNames edition = arguments[1] == QLatin1String("french") ? FrenchNames() : EnglishNames();
     try {

@@ -6,8 +6,8 @@
 /// A typical run of the program, gone through with real key and mouse events, with pictures of every window on the way.
 class TourSteps {
 public:
-    /// `folder` is the program folder with the sample files, `pictures` the folder of the pictures.
-    TourSteps(const EditionNames& edition, const QString& folder, const QString& pictures);
+    /// `programFolder` has the sample files, `pictureFolder` takes the pictures.
+    TourSteps(const EditionNames& editionToTour, const QString& programFolder, const QString& pictureFolder);
 
     /// Goes from the start of the program to its end; throws when a step does not come about.
     void Go();

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::int64_t FixedAmount = 16 * 1024; // what a reader may hold for an empty input
+constexpr std::int64_t FixedAmount = std::int64_t{16} * 1024; // what a reader may hold for an empty input
 
 thread_local bool measuring = false;
 thread_local std::int64_t held = 0;

@@ -129,8 +129,8 @@ std::string GoodConfig(std::mt19937_64& random) {
         rule = static_cast<std::int16_t>(random());
     }
     for (std::string* text : {&config.DefaultPath, &config.BarCodeFont, &config.BarCodeTexts[2], &config.Admin,
-                              &config.ImportFile, &config.Fields[0], &config.Fields[3], &config.Symbols[15],
-                              &config.Actuals[0], &config.Photos, &config.HtmlTexts[1], &config.SplitCharacter}) {
+                              &config.ImportFile, config.Fields.data(), &config.Fields[3], &config.Symbols[15],
+                              config.Actuals.data(), &config.Photos, &config.HtmlTexts[1], &config.SplitCharacter}) {
         *text = Typed(random);
     }
     return ReferenceWriteConfig(config, "[A title]");

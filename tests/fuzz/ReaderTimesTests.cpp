@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr qsizetype SmallSize = 64 * 1024;
+constexpr qsizetype SmallSize = qsizetype{64} * 1024;
 constexpr int Growth = 8;
 constexpr int Leeway = 4;            // a quadratic reader would take 8 times longer than a linear one
 constexpr double Measurable = 0.001; // seconds; below it the clock says little

@@ -1,6 +1,8 @@
 #include "import/ImportCaptions.h"
 #include "tests/import/ImportWindow.h"
 
+#include <QAccessible>
+
 namespace {
 
 using ImportCaptionsTest = ImportWindowTest;

@@ -182,7 +182,7 @@ TEST_F(ImportFileTest, IsWholeWhenItIsStoppedBehindItsLastByte) {
 
 TEST_F(ImportFileTest, KeepsWhatWasCountedBeforeAFailure) {
     folder.Write(path, QByteArray("0123456\n").repeated(100000));
-    calls.LongestRead = 64 * 1024;
+    calls.LongestRead = std::int64_t{64} * 1024;
     calls.ReadFailure = EIO;
     calls.ReadsBeforeFailure = 5;
     ImportFile file(path);

@@ -138,7 +138,7 @@ TEST_F(PagingTest, TellsThatTheDeviceFails) {
 
 TEST_F(PagingTest, KeepsWhatWasReadBeforeTheDeviceFailed) {
     folder.Write(setupFile, "ActiveFields=1\nField1=Last Name\n");
-    calls.LongestRead = 64 * 1024;
+    calls.LongestRead = std::int64_t{64} * 1024;
     calls.ReadFailure = EIO;
     calls.ReadsBeforeFailure = 9;
     folder.Screen.Answer(MessageAnswer::Ok);

@@ -130,7 +130,7 @@ TEST(SplitImportRecordTest, CutsALongFieldForShowing) {
 }
 
 TEST(SplitImportRecordTest, TrimsBlanksBeyondTheCut) {
-    const QByteArray blanks(2 * ShownCharacters, ' ');
+    const QByteArray blanks(qsizetype{2} * ShownCharacters, ' ');
     EXPECT_EQ(List("x|y"),
               SplitImportRecord(blanks + "x" + blanks + ",\"" + blanks + "y" + blanks + "\"" + blanks).Fields);
 }

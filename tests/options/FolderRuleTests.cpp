@@ -56,7 +56,8 @@ TEST(FolderTexts, DummyFileStandsInTheFolder) {
 TEST(FolderTexts, PickedFolderIsCutAtTheLastBackslash) {
     for (const NameCase& row :
          {NameCase{"c:\\Marks\\2016\\Don't_Delete_Me", "c:\\Marks\\2016"}, NameCase{"c:\\Don't_Delete_Me", "c:\\"},
-          NameCase{"Don't_Delete_Me", ""}, NameCase{"", ""}, NameCase{"c:\\marks\\", "c:\\marks"}}) {
+          NameCase{"Don't_Delete_Me", ""}, NameCase{"", ""}, NameCase{"c:\\marks\\", "c:\\marks"},
+          NameCase{"\\a\\x", "\\a"}, NameCase{"c:\\a:\\x", "c:\\a:"}}) {
         EXPECT_EQ(PickedFolder(QString::fromUtf8(row.From)), QString::fromUtf8(row.To)) << row.From;
     }
 }

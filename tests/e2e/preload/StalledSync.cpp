@@ -5,11 +5,11 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-extern "C" int fsync(int handle) {
+extern "C" int fsync(int fd) {
     constexpr useconds_t betweenLooks = 2'000;
     const char* const file = std::getenv("STALLED_WHILE");
     while (file != nullptr && access(file, F_OK) == 0) {
         usleep(betweenLooks);
     }
-    return static_cast<int>(syscall(SYS_fsync, handle));
+    return static_cast<int>(syscall(SYS_fsync, fd));
 }
