@@ -3,6 +3,7 @@
 #include "tests/support/TestFolder.h"
 #include "tests/support/Text.h"
 
+#include <QElapsedTimer>
 #include <fstream>
 #include <gtest/gtest.h>
 
@@ -200,6 +201,22 @@ TEST_F(ImportFileTest, GoesOnAfterShortAndInterruptedReads) {
     const ImportFile file = Counted(QByteArray("0123456\n").repeated(50000));
     EXPECT_EQ(50000, file.RecordCount());
     EXPECT_EQ(Text("0123456"), FirstField(file, 50000));
+}
+
+// A callback that paints a bar would else take longer than the reading.
+TEST_F(ImportFileTest, AsksNoOftenerThanAnEyeSees) {
+    folder.Write(path, QByteArray("0123456\n").repeated(1'000'000)); // over sixty pieces
+    ImportFile file(path);
+    constexpr qint64 milliseconds = 40;
+    qint64 asked = 0;
+    QElapsedTimer clock;
+    clock.start();
+    const ImportFile::Result result = file.Count([&](std::int64_t /*read*/, std::int64_t /*size*/) {
+        ++asked;
+        return true;
+    });
+    EXPECT_EQ(Outcome::Done, result.What);
+    EXPECT_LE(asked, clock.elapsed() / milliseconds + 1);
 }
 
 TEST_F(ImportFileTest, StopsWhenAskedTo) {

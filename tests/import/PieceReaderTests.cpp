@@ -54,7 +54,7 @@ TEST_F(PieceReaderTest, GivesTheWholeFileWhateverItsSize) {
 
 // Whoever waits and whoever tells meet at every possible moment.
 TEST_F(PieceReaderTest, MissesNoEndHoweverShortTheWait) {
-    constexpr int Readings = 3000;
+    constexpr int Readings = 500;
     const QByteArray bytes = Numbers(200);
     folder.Write(path, bytes);
     for (int reading = 0; reading < Readings; ++reading) {

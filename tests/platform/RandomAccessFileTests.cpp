@@ -23,6 +23,39 @@ protected:
     }
 };
 
+/// The system gives the lowest number that is free, and that may be 0.
+class LowestHandle : public FaultyCalls {
+public:
+    int OpenForReading(const NativePath& path) override {
+        given = FaultyCalls::OpenForReading(path);
+        return given < 0 ? given : 0;
+    }
+    std::int64_t Read(int handle, char* buffer, std::int64_t size) override {
+        return FaultyCalls::Read(Given(handle), buffer, size);
+    }
+    std::int64_t Seek(int handle, std::int64_t position) override { return FaultyCalls::Seek(Given(handle), position); }
+    int Close(int handle) override { return FaultyCalls::Close(Given(handle)); }
+
+private:
+    int given = -1;
+
+    int Given(int handle) const { return handle == 0 ? given : handle; }
+};
+
+TEST(LowestHandleTest, IsReadAndClosedAsAnyOther) {
+    LowestHandle calls;
+    TestFolder folder{calls};
+    folder.Write(QStringLiteral("c:\\students.txt"), "abc");
+    RandomAccessFile file;
+    ASSERT_FALSE(file.Open(QStringLiteral("c:\\students.txt")));
+    QByteArray bytes(3, '?');
+    std::int64_t count = 0;
+    EXPECT_FALSE(file.ReadAt(0, bytes.data(), 3, count));
+    EXPECT_EQ(QByteArray("abc"), bytes);
+    file.Close();
+    EXPECT_EQ(0, calls.OpenHandles);
+}
+
 TEST_F(RandomAccessFileTest, ReadsAtAnyPlace) {
     folder.Write(path, "0123456789");
     ASSERT_FALSE(file.Open(path));

@@ -313,6 +313,21 @@ TEST(SafeWriterFaults, AMoveThatHappenedAndReportsAFailureIsASuccess) {
     }
 }
 
+TEST(SafeWriterFaults, ATemporaryFileIsClosedBeforeItIsRemoved) { // as Windows wants it
+    Scene scene(Saves[2]);
+    scene.Calls.FailAll(Kind::Write, EIO);
+    int removed = 0;
+    scene.Calls.Before = [&](Kind kind) {
+        if (kind == Kind::Remove) {
+            ++removed;
+            EXPECT_EQ(scene.Calls.OpenHandles, 0);
+        }
+    };
+    EXPECT_TRUE(SafeSave(scene.Calls, scene.Path, Saves[2].New));
+    EXPECT_EQ(removed, 1);
+    EXPECT_TRUE(scene.IsOld() && scene.IsAlone());
+}
+
 TEST(SafeWriterFaults, AFolderThatRefusesTheMoveOnlyIsWrittenInPlace) {
     Scene scene(Saves[2]);
     scene.Calls.FailAll(Kind::Replace, EPERM);
