@@ -130,7 +130,7 @@ TEST_F(Dates, MonthTexts) {
           MonthText{"JUN", 6},  MonthText{"JUL", 7},  MonthText{"AUG", 8}, MonthText{"SEP", 9},  MonthText{"OCT", 10},
           MonthText{"NOV", 11}, MonthText{"DEC", 12}, MonthText{"fév", 2}, MonthText{"FÉV", 2},  MonthText{"avr", 4},
           MonthText{"JUI", 6},  MonthText{"jui", 6},  MonthText{"aôu", 8}, MonthText{"déc", 12}, MonthText{"MAI", 0},
-          MonthText{"xyz", 0},  MonthText{"C", 10},   MonthText{"B", 3}}) {
+          MonthText{"xyz", 0},  MonthText{"C", 10},   MonthText{"B", 3},   MonthText{"JANFE", 1}}) {
         Use(Edition::English);
         MsgAnswer = 3;
         ParseDayMonth(QString(), QString::fromUtf8(text));

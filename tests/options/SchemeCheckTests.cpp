@@ -97,6 +97,7 @@ TEST(LowestSymbol, LabelOfBothEditions) {
     EXPECT_EQ(LowestSymbolText(QStringLiteral("65"), false), QStringLiteral("For 0 to 64.9% use:"));
     EXPECT_EQ(LowestSymbolText(QStringLiteral("65"), true), QStringLiteral("Pour 0 à 64,9% utiliser :"));
     EXPECT_EQ(LowestSymbolText(QStringLiteral("05x"), false), QStringLiteral("For 0 to 4.9% use:"));
+    EXPECT_EQ(LowestSymbolText(QStringLiteral("1.1"), false), QStringLiteral("For 0 to 0.1.9% use:")); // 15 digits
     EXPECT_EQ(LowestSymbolText(QString(), false), QStringLiteral("For 0 to -1.9% use:"));
     EXPECT_EQ(LowestSymbolUnknownText(false), QStringLiteral("For the lowest symbol use:"));
 }
