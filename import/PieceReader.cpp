@@ -49,7 +49,7 @@ void PieceReader::Shared::ReadFile(const QString& path) {
     SystemError error = file.Open(path);
     {
         const QMutexLocker guard(&Lock);
-        Stamp = error ? FileStamp() : file.Stamp();
+        Stamp = file.Stamp();
     }
     std::int64_t offset = 0;
     bool more = !error;

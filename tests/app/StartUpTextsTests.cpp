@@ -50,6 +50,8 @@ TEST(ProgramFolderOf, OneTrailingBackslashGoes) {
 }
 
 TEST(DefaultScheme, ThirteenLevels) {
+    ProgramConfig.SchemeSymbol.fill(QStringLiteral("kept"));
+    ProgramConfig.SchemeValue.fill(77);
     SetDefaultSettings();
     const char* symbols[] = {"F", "D-", "D", "D+", "C-", "C", "C+", "B-", "B", "B+", "A-", "A", "A+"};
     const int values[] = {0, 50, 53, 57, 60, 63, 67, 70, 73, 77, 80, 85, 90};

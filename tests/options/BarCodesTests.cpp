@@ -38,6 +38,7 @@ TEST(BarCodes, CodesOutsideTheListSelectNothing) {
     EXPECT_EQ(BarCodeResult(300), QString());
     EXPECT_EQ(BarCodeResult(-1), QString());
     EXPECT_EQ(BarCodeResult(97), QStringLiteral("*a*"));
+    EXPECT_EQ(BarCodeResult(1), QStringLiteral("*\u0001*"));
     EXPECT_EQ(BarCodeResult(255), QStringLiteral("*\u00FF*"));
     EXPECT_EQ(BarCodeResult(256), QString());
     EXPECT_EQ(BarCodeOfText(QString()), 0);

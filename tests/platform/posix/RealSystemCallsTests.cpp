@@ -1,7 +1,9 @@
 #include "platform/SystemCalls.h"
 
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cerrno>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -23,6 +25,29 @@ TEST_F(RealCalls, ReadALinkWhateverItsLength) {
         EXPECT_EQ(0, calls.ReadLink(link, target));
         EXPECT_EQ(std::string(length, 'x'), target.native());
     }
+}
+
+TEST_F(RealCalls, ListWhatAFolderHoldsAndNotTheFolderItself) {
+    std::ofstream(Inside("one")).close();
+    std::ofstream(Inside(".two")).close();
+    std::vector<NativePath> names;
+    EXPECT_EQ(0, calls.ListNames(Inside(""), names));
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<NativePath>{".two", "one"}));
+}
+
+TEST_F(RealCalls, LeaveNoFolderOpen) {
+    const auto lowestFree = [this] {
+        const int handle = calls.OpenForWriting(Inside("file"));
+        calls.Close(handle);
+        return handle;
+    };
+    std::ofstream(Inside("file")).close();
+    const int before = lowestFree();
+    std::vector<NativePath> names;
+    EXPECT_EQ(0, calls.SyncFolder(Inside("")));
+    EXPECT_EQ(0, calls.ListNames(Inside(""), names));
+    EXPECT_EQ(before, lowestFree());
 }
 
 TEST_F(RealCalls, TellWhatIsNotThere) {
