@@ -5,6 +5,7 @@
 #include "transfer/TransferTexts.h"
 #include "transfer/frmGWT_SU.h"
 
+#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
