@@ -90,6 +90,7 @@ TEST_P(EachManual, HasPagesPicturesContentsAndIndex) {
     EXPECT_LE(manual.Count(), MostPages);
     EXPECT_TRUE(manual.MissingPictures().isEmpty()) << manual.MissingPictures().join(u' ').toStdString();
     EXPECT_GT(manual.Places().Index.size(), 50);
+    EXPECT_EQ(manual.Places().Headings.back().Page, manual.Count()) << "the index has the last page for itself";
     EXPECT_GT(manual.Navigation().Bookmarks.size(), 30U);
     const QString filled = FilledManual(Source(name), manual.Places());
     static const QRegularExpression unknown(QStringLiteral("\\b(page|Seite)\\s\\?"));

@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr qsizetype IndexLines = 46; // of a column of a page
-
 QString Row(const QString& attributes, const QString& text, const QString& page) {
     return QStringLiteral("<tr><td%1>%2</td><td align=\"right\" valign=\"bottom\">%3</td></tr>\n")
         .arg(attributes, text, page);
@@ -56,20 +54,13 @@ QStringList IndexEntries(const QMap<QString, std::vector<int>>& index) {
     return entries;
 }
 
-// Two columns a page, read down the left one first.
+// Two columns as long as each other, read down the left one first.
 QString Index(const QMap<QString, std::vector<int>>& index) {
     const QStringList entries = IndexEntries(index);
-    QString tables;
-    for (qsizetype first = 0; first < entries.size(); first += 2 * IndexLines) {
-        const qsizetype here = std::min(2 * IndexLines, entries.size() - first);
-        const qsizetype left = here > IndexLines ? IndexLines : (here + 1) / 2;
-        tables += QStringLiteral("<table width=\"100%\" cellspacing=\"0\"%1><tr><td width=\"50%\">%2</td>"
-                                 "<td width=\"50%\">%3</td></tr></table>\n")
-                      .arg(first == 0 ? QString() : QStringLiteral(" style=\"page-break-before: always\""),
-                           entries.mid(first, left).join(QStringLiteral("<br>")),
-                           entries.mid(first + left, here - left).join(QStringLiteral("<br>")));
-    }
-    return tables;
+    const qsizetype left = (entries.size() + 1) / 2;
+    return QStringLiteral("<table width=\"100%\" cellspacing=\"0\"><tr><td width=\"50%\">%1</td>"
+                          "<td width=\"50%\">%2</td></tr></table>\n")
+        .arg(entries.mid(0, left).join(QStringLiteral("<br>")), entries.mid(left).join(QStringLiteral("<br>")));
 }
 
 } // namespace
